@@ -1,0 +1,93 @@
+// The model of a form.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/control.h"
+
+namespace orvik::forms {
+
+// A form is a class with its controls as members, laid out in its constructor, with its event
+// routines as methods. Its size is the outer one of a window whose frame takes kFrameWidth and
+// kFrameHeight twips; a front end keeps the inner size and lets the system add its own frame.
+constexpr int kFrameWidth = 90;
+constexpr int kFrameHeight = 405;
+
+class Form {
+ public:
+  enum class Place { kCentre, kSystem };
+
+  // `name` is the class's name; `caption` the one of design time.
+  Form(const char* name, Text caption, int width, int height, Place place = Place::kCentre);
+  virtual ~Form();
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::string& name() const { return name_; }
+  const std::vector<Control*>& controls() const { return controls_; }
+  Control* Find(std::string_view name) const;  // nullptr when there is none
+
+  const Text& caption() const { return caption_; }
+  void SetCaption(TextView caption);
+  bool visible() const { return visible_; }
+  int width() const { return width_; }
+  int height() const { return height_; }
+  void SetSize(int width, int height);
+  bool topmost() const { return topmost_; }
+  void SetTopmost(bool topmost);
+  Place place() const { return place_; }
+  bool loaded() const { return state_ == State::kLoading || state_ == State::kLoaded; }
+  bool unloaded() const { return state_ == State::kUnloaded; }
+
+  // Loads the form when it isn't loaded, and shows it. Within the load routine it shows the form
+  // there and then.
+  void Show();
+  // Takes the form away: the unload routine runs, and the form is gone.
+  void Unload();
+
+  // The user's doings.
+  void UserClose() { Unload(); }
+  void UserResize(int width, int height);
+  bool UserKeyDown(Key key);  // true when no handler took the key away
+  void UserKeyPress(int character);
+  void UserKeyUp(Key key);
+  void UserMouse(bool down, Mouse mouse);
+
+  std::function<void(Key&)> on_key_down;
+  std::function<void(int)> on_key_press;
+  std::function<void(Key&)> on_key_up;
+  std::function<void(Mouse)> on_mouse_down;
+  std::function<void(Mouse)> on_mouse_up;
+
+  View* view() const { return view_.get(); }
+  void SetView(std::unique_ptr<View> view) { view_ = std::move(view); }
+
+ protected:
+  // The routines of the form: at load, at unload, after a change of size.
+  virtual void OnLoad() {}
+  virtual void OnUnload() {}
+  virtual void OnResize() {}
+
+ private:
+  friend class Control;
+  enum class State { kNew, kLoading, kLoaded, kUnloaded };
+  void Changed(Property property);
+
+  const std::string name_;
+  std::vector<Control*> controls_;
+  Text caption_;
+  int width_, height_;
+  const Place place_;
+  bool visible_ = false;
+  bool topmost_ = false;
+  State state_ = State::kNew;
+  std::unique_ptr<View> view_;
+};
+
+// The forms that are loaded, in the order of loading.
+const std::vector<Form*>& LoadedForms();
+
+}  // namespace orvik::forms
