@@ -22,7 +22,7 @@ struct FakeNode {
   std::vector<std::shared_ptr<FakeNode>> children;
 
   std::int64_t Length() const { return static_cast<std::int64_t>(content.size()) + zeros; }
-  bool Untouchable() const { return *holds > 0 || (attributes & attribute::kReadOnly) != 0; }
+  bool Untouchable() const { return *holds > 0 || (attributes & host::attribute::kReadOnly) != 0; }
   FakeNode* Child(TextView wanted) const {
     for (const auto& child : children) {
       if (EqualNoCase(child->name, wanted)) return child.get();
