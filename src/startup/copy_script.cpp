@@ -25,7 +25,7 @@ void RunCopyScript(const Text& path) {
   const Text content = mdlSupport::ReadWholeFile(path);
   const auto lines = Split(content, kCrLf);
   ScriptLines.assign(lines.begin(), lines.end());
-  // Without a first line that test fails and lets nothing pass: an empty file is no script.
+  // Another word, or no line at all, is answered by silence, not by "Wrong parameters".
   if (ScriptLines.empty() || ToLower(ScriptLines[0]) != u"foldercopy") return;
   const std::int32_t last = mdlSupport::UpperBoundOrMinusOne(ScriptLines);
   if (last < 2) {
