@@ -88,8 +88,7 @@ bool PosixRegistry::DeleteValue(Handle key, const Text& name) {
   const Text* const path = PathOf(key);
   if (path == nullptr) return false;
   const Text spelled = ThroughPage(name);
-  return file_.Update(
-      [&](RegistryDocument& document) { return document.Unset(*path, spelled); });
+  return file_.Update([&](RegistryDocument& document) { return document.Unset(*path, spelled); });
 }
 
 bool PosixRegistry::DeleteKey(Handle parent, const Text& name) {

@@ -95,12 +95,15 @@ bool RegistryFile::PutAside(const std::string& target) const {
 
 bool RegistryFile::Save() {
   known_ = false;
+  // A rename would get round the file's own protection.
+  const bool there = status_.st_ino != 0;
+  if (there && (status_.st_mode & S_IWUSR) == 0) return false;
   std::string bytes = EncodeRegistryFile(WriteRegistry(document_), encoding_);
   const std::string target = RealPath(path_);
   std::string draft = target + ".XXXXXX";
   UniqueFd fd(::mkostemp(draft.data(), O_CLOEXEC));
   if (!fd) return false;
-  const mode_t mode = status_.st_ino != 0 ? status_.st_mode & 0777 : 0644;
+  const mode_t mode = there ? status_.st_mode & 0777 : 0644;
   bool written = ::fchmod(fd.get(), mode) == 0 && WriteNative(fd.get(), bytes);
   struct stat status = {};
   written = written && ::fstat(fd.get(), &status) == 0;
