@@ -1,7 +1,65 @@
 #include "startup/main.h"
 
+#include <algorithm>
+#include <iterator>
+
+#include "copying/frm_main.h"
+#include "fileengine/checksums.h"
+#include "fileengine/frm_file_crc.h"
+#include "fileengine/paths.h"
+#include "forms/instance.h"
+#include "host/registry.h"
+#include "startup/commands.h"
+#include "startup/globals.h"
+
 namespace orvik::mdlMain {
 
-void Main(const Text&) {}
+namespace {
+
+constexpr std::size_t kSwitchLength = 5;
+
+// The blank belongs to the switch.
+struct Switch {
+  TextView name;
+  void (*act)();
+};
+
+template <typename FormClass>
+void Show() {
+  forms::The<FormClass>().Show();
+}
+
+constexpr Switch kSwitches[] = {
+    {u"/FCR ", Show<frmFileCRC>},
+    {u"/SYF ", [] { RunCopyScript(CommandArgs); }},
+    {u"/SCH ", Show<frmMain>},
+};
+
+void SetRegistryPlaces() {
+  RegRootKey = host::kLocalMachine;
+  RegRootPath = u"SOFTWARE\\Ib Tarn\\Orvik";
+  RecentPathKey = RegRootPath + u"\\Recent Path";
+  RecentMaskKey = RegRootPath + u"\\Recent Mask";
+  RecentPath2Key = RegRootPath + u"\\Recent Path2";
+  FileListKey = RegRootPath + u"\\FileList";
+  DoublesSourcesKey = RegRootPath + u"\\Doubles Sources";
+  DoublesPatternKey = RegRootPath + u"\\Doubles Pattern List";
+}
+
+}  // namespace
+
+void Main(const Text& command_line) {
+  CommandArgs = command_line;
+  mdlSupport::InitCRCTable();
+  InstalledExePath = mdlSupport::AddBackslash(ReadEnvironment().WindowsFolder) + u"Orvik.exe";
+  SetRegistryPlaces();
+  const Text name = ToUpper(TextView(CommandArgs).substr(0, kSwitchLength));
+  // A shorter line can't be cut and stays whole.
+  if (CommandArgs.size() >= kSwitchLength) CommandArgs.erase(0, kSwitchLength);
+  const auto known = std::find_if(std::begin(kSwitches), std::end(kSwitches),
+                                  [&](const Switch& entry) { return entry.name == name; });
+  if (known == std::end(kSwitches)) Shutdown();
+  known->act();
+}
 
 }  // namespace orvik::mdlMain
