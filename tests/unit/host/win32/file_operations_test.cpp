@@ -3,14 +3,14 @@
 namespace orvik::host::win32 {
 namespace {
 
-class FileOperations : public HostTest {
+class Win32FileOperations : public HostTest {
  protected:
   void ReadOnly(const Text& path) {
     ASSERT_TRUE(files().SetAttributes(path, attribute::kReadOnly));
   }
 };
 
-TEST_F(FileOperations, PathExists) {
+TEST_F(Win32FileOperations, PathExists) {
   Make(u"f");
   MakeFolder(u"d");
   EXPECT_TRUE(files().PathExists(In(u"F")));
@@ -23,7 +23,7 @@ TEST_F(FileOperations, PathExists) {
   EXPECT_FALSE(files().PathExists(u""));
 }
 
-TEST_F(FileOperations, AttributesAreSetAndTakenOff) {
+TEST_F(Win32FileOperations, AttributesAreSetAndTakenOff) {
   const Text path = Make(u"f");
   const std::uint32_t all = attribute::kReadOnly | attribute::kHidden | attribute::kSystem;
   ASSERT_TRUE(files().SetAttributes(path, all));
@@ -34,7 +34,7 @@ TEST_F(FileOperations, AttributesAreSetAndTakenOff) {
   EXPECT_FALSE(files().Attributes(In(u"x")));
 }
 
-TEST_F(FileOperations, FolderBitIsIgnoredWhenSetting) {
+TEST_F(Win32FileOperations, FolderBitIsIgnoredWhenSetting) {
   const Text path = Make(u"f");
   ASSERT_TRUE(files().SetAttributes(path, attribute::kFolder | attribute::kHidden));
   EXPECT_EQ(files().Attributes(path).value_or(0) & (attribute::kFolder | attribute::kHidden),
@@ -45,7 +45,7 @@ TEST_F(FileOperations, FolderBitIsIgnoredWhenSetting) {
             attribute::kFolder | attribute::kHidden);
 }
 
-TEST_F(FileOperations, LengthOfALockedFileAndOfAFolder) {
+TEST_F(Win32FileOperations, LengthOfALockedFileAndOfAFolder) {
   const Text path = Make(u"f", "12345");
   const HANDLE lock = CreateFileW(Wide(path).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
                                   OPEN_EXISTING, 0, nullptr);
@@ -61,14 +61,14 @@ TEST_F(FileOperations, LengthOfALockedFileAndOfAFolder) {
   EXPECT_FALSE(files().FileLength(In(u"x")));
 }
 
-TEST_F(FileOperations, CreateFolderMakesOneLevelOnce) {
+TEST_F(Win32FileOperations, CreateFolderMakesOneLevelOnce) {
   EXPECT_TRUE(files().CreateFolder(In(u"d\\")));
   EXPECT_FALSE(files().CreateFolder(In(u"d")));
   EXPECT_FALSE(files().CreateFolder(In(u"x\\y")));
   EXPECT_FALSE(files().CreateFolder(Make(u"f")));
 }
 
-TEST_F(FileOperations, NewFolderLeavesRoomForAShortName) {
+TEST_F(Win32FileOperations, NewFolderLeavesRoomForAShortName) {
   Text parent = In(u"p");
   parent += Text(120, u'p');
   ASSERT_TRUE(files().CreateFolder(parent));
@@ -79,7 +79,7 @@ TEST_F(FileOperations, NewFolderLeavesRoomForAShortName) {
   EXPECT_TRUE(files().CreateFolder(path));
 }
 
-TEST_F(FileOperations, RemoveFolder) {
+TEST_F(Win32FileOperations, RemoveFolder) {
   const Text folder = MakeFolder(u"d");
   const Text file = Make(u"d\\f");
   EXPECT_FALSE(files().RemoveFolder(folder));
@@ -89,7 +89,7 @@ TEST_F(FileOperations, RemoveFolder) {
   EXPECT_FALSE(files().PathExists(folder));
 }
 
-TEST_F(FileOperations, CopyKeepsContentAttributesAndTime) {
+TEST_F(Win32FileOperations, CopyKeepsContentAttributesAndTime) {
   const Text from = Make(u"a", "hello");
   HANDLE file =
       CreateFileW(Wide(from).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
@@ -105,7 +105,7 @@ TEST_F(FileOperations, CopyKeepsContentAttributesAndTime) {
   EXPECT_EQ(data.ftLastWriteTime.dwHighDateTime, time.dwHighDateTime);
 }
 
-TEST_F(FileOperations, CopyReplacesOnlyWhenAsked) {
+TEST_F(Win32FileOperations, CopyReplacesOnlyWhenAsked) {
   const Text from = Make(u"a", "new");
   const Text to = Make(u"b", "old");
   EXPECT_FALSE(files().CopyFile(from, to, true));
@@ -114,7 +114,7 @@ TEST_F(FileOperations, CopyReplacesOnlyWhenAsked) {
   EXPECT_EQ(Content(to), "new");
 }
 
-TEST_F(FileOperations, CopyRefusesReadOnlyTargetsFoldersAndItself) {
+TEST_F(Win32FileOperations, CopyRefusesReadOnlyTargetsFoldersAndItself) {
   const Text from = Make(u"a", "new");
   const Text to = Make(u"b", "old");
   ReadOnly(to);
@@ -128,7 +128,7 @@ TEST_F(FileOperations, CopyRefusesReadOnlyTargetsFoldersAndItself) {
   EXPECT_FALSE(files().PathExists(In(u"y")));
 }
 
-TEST_F(FileOperations, MoveRenamesFilesAndFolders) {
+TEST_F(Win32FileOperations, MoveRenamesFilesAndFolders) {
   const Text from = Make(u"a", "1");
   EXPECT_TRUE(files().MoveFile(from, In(u"b"), false));
   EXPECT_FALSE(files().PathExists(from));
@@ -139,7 +139,7 @@ TEST_F(FileOperations, MoveRenamesFilesAndFolders) {
   EXPECT_TRUE(files().PathExists(In(u"e\\f")));
 }
 
-TEST_F(FileOperations, MoveReplacesOnlyWhenAsked) {
+TEST_F(Win32FileOperations, MoveReplacesOnlyWhenAsked) {
   const Text from = Make(u"a", "new");
   const Text to = Make(u"b", "old");
   EXPECT_FALSE(files().MoveFile(from, to, false));
@@ -150,7 +150,7 @@ TEST_F(FileOperations, MoveReplacesOnlyWhenAsked) {
   EXPECT_FALSE(files().PathExists(from));
 }
 
-TEST_F(FileOperations, MoveRefusesReadOnlyTargetsAndFolders) {
+TEST_F(Win32FileOperations, MoveRefusesReadOnlyTargetsAndFolders) {
   const Text from = Make(u"a", "new");
   const Text to = Make(u"b", "old");
   ReadOnly(to);
@@ -163,7 +163,7 @@ TEST_F(FileOperations, MoveRefusesReadOnlyTargetsAndFolders) {
   EXPECT_TRUE(files().SetAttributes(In(u"c"), 0));
 }
 
-TEST_F(FileOperations, DeleteFile) {
+TEST_F(Win32FileOperations, DeleteFile) {
   const Text path = Make(u"f");
   ReadOnly(path);
   EXPECT_FALSE(files().DeleteFile(path));
@@ -176,7 +176,7 @@ TEST_F(FileOperations, DeleteFile) {
   EXPECT_TRUE(files().PathExists(In(u"d")));
 }
 
-TEST_F(FileOperations, ShortName) {
+TEST_F(Win32FileOperations, ShortName) {
   Make(u"SHORT.TXT");
   EXPECT_EQ(files().ShortName(In(u"short.txt")), u"SHORT.TXT");
   const Text path = Make(u"a rather long name.text");

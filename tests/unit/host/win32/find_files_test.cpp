@@ -6,7 +6,7 @@
 namespace orvik::host::win32 {
 namespace {
 
-class FindFiles : public HostTest {
+class Win32FindFiles : public HostTest {
  protected:
   std::vector<FindRecord> All(const Text& path_and_mask) {
     std::vector<FindRecord> records;
@@ -27,7 +27,7 @@ class FindFiles : public HostTest {
 
 using Set = std::set<std::string>;
 
-TEST_F(FindFiles, DotsComeFirst) {
+TEST_F(Win32FindFiles, DotsComeFirst) {
   Make(u"!");
   MakeFolder(u"#");
   const auto all = All(In(u"*"));
@@ -37,14 +37,14 @@ TEST_F(FindFiles, DotsComeFirst) {
   EXPECT_EQ(all[0].attributes & attribute::kFolder, attribute::kFolder);
 }
 
-TEST_F(FindFiles, RootHoldsNoDots) {
+TEST_F(Win32FindFiles, RootHoldsNoDots) {
   const Set names = Names(u"C:\\*");
   EXPECT_TRUE(names.contains("windows") || names.contains("Windows"));
   EXPECT_FALSE(names.contains("."));
   EXPECT_FALSE(names.contains(".."));
 }
 
-TEST_F(FindFiles, MasksLookAtLongNamesOnly) {
+TEST_F(Win32FindFiles, MasksLookAtLongNamesOnly) {
   Make(u"a-very-long-name.html");
   Make(u"short.htm");
   Make(u"очень длинное русское имя.текст");
@@ -55,7 +55,7 @@ TEST_F(FindFiles, MasksLookAtLongNamesOnly) {
   EXPECT_EQ(Names(In(u"*.ТЕКСТ")), (Set{"очень длинное русское имя.текст"}));
 }
 
-TEST_F(FindFiles, MaskRules) {
+TEST_F(Win32FindFiles, MaskRules) {
   Make(u"makefile");
   Make(u"makefile.in");
   Make(u"ab.c");
@@ -67,7 +67,7 @@ TEST_F(FindFiles, MaskRules) {
   EXPECT_EQ(Names(In(u"MAKEFILE.IN")), (Set{"makefile.in"}));
 }
 
-TEST_F(FindFiles, RecordStaysUntouchedWhenNothingMatches) {
+TEST_F(Win32FindFiles, RecordStaysUntouchedWhenNothingMatches) {
   FindRecord record{7, 8, 9, u"before"};
   EXPECT_FALSE(files().FindFirst(In(u"*.none"), Details::kAll, record));
   EXPECT_FALSE(files().FindFirst(In(u"missing\\*"), Details::kAll, record));
@@ -79,7 +79,7 @@ TEST_F(FindFiles, RecordStaysUntouchedWhenNothingMatches) {
   EXPECT_EQ(record.size_low, 9u);
 }
 
-TEST_F(FindFiles, RecordStaysUntouchedAtTheEnd) {
+TEST_F(Win32FindFiles, RecordStaysUntouchedAtTheEnd) {
   Make(u"one");
   FindRecord record;
   const auto search = files().FindFirst(In(u"one"), Details::kAll, record);
@@ -88,20 +88,20 @@ TEST_F(FindFiles, RecordStaysUntouchedAtTheEnd) {
   EXPECT_EQ(record.name, u"one");
 }
 
-TEST_F(FindFiles, PlainPathFindsTheFolderItself) {
+TEST_F(Win32FindFiles, PlainPathFindsTheFolderItself) {
   MakeFolder(u"sub");
   EXPECT_EQ(Names(In(u"sub")), (Set{"sub"}));
   EXPECT_EQ(Names(In(u"sub\\")), Set{});
 }
 
-TEST_F(FindFiles, WildcardsInTheFolderFindNothing) {
+TEST_F(Win32FindFiles, WildcardsInTheFolderFindNothing) {
   MakeFolder(u"sub");
   Make(u"sub\\a");
   EXPECT_EQ(Names(In(u"su?\\a")), Set{});
   EXPECT_EQ(Names(In(u"*\\a")), Set{});
 }
 
-TEST_F(FindFiles, NameOutsideThePageIsListedAndOutOfReach) {
+TEST_F(Win32FindFiles, NameOutsideThePageIsListedAndOutOfReach) {
   Make(u"caf\u00E9", "x");
   Make(u"\u4E2D\u6587", "x");
   EXPECT_EQ(Names(In(u"c*")), (Set{"caf?"}));
@@ -111,7 +111,7 @@ TEST_F(FindFiles, NameOutsideThePageIsListedAndOutOfReach) {
   EXPECT_FALSE(files().DeleteFile(In(u"caf?")));
 }
 
-TEST_F(FindFiles, SizesAndAttributes) {
+TEST_F(Win32FindFiles, SizesAndAttributes) {
   const Text path = Make(u"f", "12345");
   ASSERT_TRUE(SetFileAttributesW(Wide(path).c_str(), FILE_ATTRIBUTE_HIDDEN));
   const auto all = All(path);
@@ -121,7 +121,7 @@ TEST_F(FindFiles, SizesAndAttributes) {
   EXPECT_EQ(all[0].attributes & ~attribute::kArchive, attribute::kHidden);
 }
 
-TEST_F(FindFiles, RefusesALongPath) {
+TEST_F(Win32FindFiles, RefusesALongPath) {
   Text path = In(u"");
   path += Text(kLongestPath + 1 - path.size(), u'*');
   EXPECT_EQ(path.size(), kLongestPath + 1);
@@ -130,7 +130,7 @@ TEST_F(FindFiles, RefusesALongPath) {
   EXPECT_EQ(Names(path), (Set{".", ".."}));
 }
 
-TEST_F(FindFiles, FolderSizeSumsTheTree) {
+TEST_F(Win32FindFiles, FolderSizeSumsTheTree) {
   MakeFolder(u"sub");
   MakeFolder(u"sub\\deep");
   Make(u"a", "123");
@@ -143,7 +143,7 @@ TEST_F(FindFiles, FolderSizeSumsTheTree) {
   EXPECT_FALSE(files().FolderSize(In(u"a")));
 }
 
-TEST_F(FindFiles, FolderSizeOfAnEmptyFolderIsNothingMissing) {
+TEST_F(Win32FindFiles, FolderSizeOfAnEmptyFolderIsNothingMissing) {
   EXPECT_EQ(files().FolderSize(MakeFolder(u"empty")), 0u);
 }
 

@@ -3,9 +3,9 @@
 namespace orvik::host::win32 {
 namespace {
 
-class OpenFile : public HostTest {};
+class Win32OpenFile : public HostTest {};
 
-TEST_F(OpenFile, ReadsAtPositions) {
+TEST_F(Win32OpenFile, ReadsAtPositions) {
   const auto file = files().Open(Make(u"f", "0123456789"), OpenMode::kRead);
   ASSERT_TRUE(file);
   EXPECT_EQ(file->Length(), 10);
@@ -19,7 +19,7 @@ TEST_F(OpenFile, ReadsAtPositions) {
   EXPECT_FALSE(file->WriteAt(0, buffer));
 }
 
-TEST_F(OpenFile, ReadNeedsAnExistingFile) {
+TEST_F(Win32OpenFile, ReadNeedsAnExistingFile) {
   EXPECT_FALSE(files().Open(In(u"x"), OpenMode::kRead));
   EXPECT_FALSE(files().Open(MakeFolder(u"d"), OpenMode::kRead));
   EXPECT_FALSE(files().Open(In(u"d"), OpenMode::kReadWriteCreate));
@@ -27,7 +27,7 @@ TEST_F(OpenFile, ReadNeedsAnExistingFile) {
   EXPECT_FALSE(files().PathExists(In(u"x")));
 }
 
-TEST_F(OpenFile, ReadWriteMakesTheFile) {
+TEST_F(Win32OpenFile, ReadWriteMakesTheFile) {
   const Text path = In(u"new");
   const auto file = files().Open(path, OpenMode::kReadWriteCreate);
   ASSERT_TRUE(file);
@@ -40,7 +40,7 @@ TEST_F(OpenFile, ReadWriteMakesTheFile) {
   EXPECT_EQ(Content(path), std::string("abc\0\0z", 6));
 }
 
-TEST_F(OpenFile, ReadOnlyFileIsOpenedForReading) {
+TEST_F(Win32OpenFile, ReadOnlyFileIsOpenedForReading) {
   const Text path = Make(u"f", "abc");
   ASSERT_TRUE(files().SetAttributes(path, attribute::kReadOnly));
   const auto file = files().Open(path, OpenMode::kReadWriteCreate);
@@ -49,7 +49,7 @@ TEST_F(OpenFile, ReadOnlyFileIsOpenedForReading) {
   EXPECT_EQ(Content(path), "abc");
 }
 
-TEST_F(OpenFile, WritersAndReadersLiveTogether) {
+TEST_F(Win32OpenFile, WritersAndReadersLiveTogether) {
   const Text path = Make(u"f", "abc");
   const auto reader = files().Open(path, OpenMode::kRead);
   const auto writer = files().Open(path, OpenMode::kReadWriteCreate);
@@ -59,7 +59,7 @@ TEST_F(OpenFile, WritersAndReadersLiveTogether) {
   EXPECT_EQ(reader->Length(), 4);
 }
 
-TEST_F(OpenFile, HeldFileCantBeChangedOrDeleted) {
+TEST_F(Win32OpenFile, HeldFileCantBeChangedOrDeleted) {
   const Text path = Make(u"f", "abc");
   const Text other = Make(u"g", "other");
   {
@@ -76,13 +76,13 @@ TEST_F(OpenFile, HeldFileCantBeChangedOrDeleted) {
   EXPECT_TRUE(files().DeleteFile(path));
 }
 
-TEST_F(OpenFile, HoldMakesTheFile) {
+TEST_F(Win32OpenFile, HoldMakesTheFile) {
   const auto hold = files().Open(In(u"new"), OpenMode::kHold);
   ASSERT_TRUE(hold);
   EXPECT_EQ(files().FileLength(In(u"new")), 0);
 }
 
-TEST_F(OpenFile, PositionsBeyondFourGibibytes) {
+TEST_F(Win32OpenFile, PositionsBeyondFourGibibytes) {
   const std::int64_t beyond = (std::int64_t{1} << 32) + 10;
   const Text path = In(u"big");
   const auto file = files().Open(path, OpenMode::kReadWriteCreate);
