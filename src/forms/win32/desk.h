@@ -32,6 +32,7 @@ class Desk {
 
   // Keeps the views of a form that is gone as long as their own routines may still be running.
   void Retire(Form& form) { retired_.push_back(&form); }
+  void Forget(Form& form) { std::erase(retired_, &form); }
   // Frees those views. Only from where no event is being handled.
   void FreeRetired();
   bool handling_event() const { return depth_ > 0; }
