@@ -35,18 +35,14 @@ NameCodec::NameCodec(const CodePage& page) : page_(page), upper_(kCachedCapitals
 }
 
 bool NameCodec::AppendNative(TextView name, std::string& native) const {
+  const std::size_t begin = native.size();
   bool plain = true;
   for (const char16_t c : name) {
-    if (c < 0x80) {
-      if (!kAllowed[c]) return false;
-      if (plain) native.push_back(static_cast<char>(c));
-      continue;
-    }
-    if (!page_.Has(c) || (c >= 0xD800 && c < 0xE000)) return false;
-    if (plain) native.resize(native.size() - static_cast<std::size_t>(&c - name.data()));
-    plain = false;
+    if (c < 0x80 ? !kAllowed[c] : !page_.Has(c) || (c >= 0xD800 && c < 0xE000)) return false;
+    plain &= c < 0x80;
+    native.push_back(static_cast<char>(c));
   }
-  if (!plain) native += ToUtf8(name);
+  if (!plain) native.replace(begin, std::string::npos, ToUtf8(name));
   return true;
 }
 

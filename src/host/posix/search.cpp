@@ -89,7 +89,7 @@ std::unique_ptr<Search> Searcher::FindFirst(const Text& path_and_mask, Details d
   const TextView mask = path.substr(begin);
   if (mask.empty()) return nullptr;
   std::unique_ptr<Listing> listing =
-      HasWildcards(mask) ? ListMatching(path.substr(0, begin), mask, details) : ListOne(path);
+      HasWildcards(mask) ? ListMatching(path.substr(0, begin), mask, details) : ListOne(path, mask);
   if (listing == nullptr || !listing->Next(record)) return nullptr;
   return listing;
 }
@@ -146,12 +146,13 @@ std::unique_ptr<Listing> Searcher::ListMatching(TextView folder, TextView mask, 
 }
 
 // A path without wildcards finds the one entry that it names.
-std::unique_ptr<Listing> Searcher::ListOne(TextView path) {
+std::unique_ptr<Listing> Searcher::ListOne(TextView path, TextView mask) {
   const std::optional<Entry> entry = finder_.Look(path);
   if (!entry || entry->path.IsRoot()) return nullptr;
   auto listing = std::make_unique<Listing>();
   Listing::Item item;
   codec_.AppendListed(entry->path.Leaf(), listing->names);
+  if (!FitsMask(listing->names, mask)) return nullptr;  // "." and ".." aren't names
   item.length = static_cast<std::uint16_t>(listing->names.size());
   item.attributes = AttributesOf(entry->path.c_str(), entry->status);
   if (entry->IsFile()) item.size = static_cast<std::uint64_t>(entry->status.st_size);

@@ -45,7 +45,7 @@ class Searcher {
 
  private:
   std::unique_ptr<Listing> ListMatching(TextView folder, TextView mask, Details details);
-  std::unique_ptr<Listing> ListOne(TextView path);
+  std::unique_ptr<Listing> ListOne(TextView path, TextView mask);
   void AddDots(TextView mask, Listing& listing) const;
   UniqueFd OpenFolder(NativePath& path);
 
