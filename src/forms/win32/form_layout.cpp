@@ -1,0 +1,140 @@
+// Size and place of a form's window and of what is in it.
+#include <algorithm>
+
+#include "forms/simple_controls.h"
+#include "forms/win32/control_view.h"
+#include "forms/win32/form_window.h"
+
+namespace orvik::forms::win32 {
+
+namespace {
+
+// The notional width of a form whose client area is so wide in pixels.
+int NotionalWidth(int client_width, const Metrics& metrics) {
+  return metrics.Twips(client_width) + kFrameWidth;
+}
+
+}  // namespace
+
+SIZE FormWindow::ClientSize() const {
+  return {metrics_->Pixels(form_.width() - kFrameWidth),
+          metrics_->Pixels(form_.height() - kFrameHeight)};
+}
+
+SIZE FormWindow::Size() const {
+  return OuterSize(ClientSize(), style_, WS_EX_CONTROLPARENT, metrics_->dpi());
+}
+
+RECT FormWindow::AreaOf(const Control& control) const {
+  const Bounds& bounds = control.bounds();
+  // Both edges are rounded, so that controls that touch in twips touch in pixels.
+  RECT area{metrics_->Pixels(bounds.left), metrics_->Pixels(bounds.top),
+            metrics_->Pixels(bounds.left + bounds.width),
+            metrics_->Pixels(bounds.top + bounds.height)};
+  const int wider = std::max(0, metrics_->Pixels(form_.width() - kFrameWidth) -
+                                    metrics_->Pixels(design_width_ - kFrameWidth));
+  const Frame* frame = control.container();
+  const bool follows = frame == nullptr || frame->anchor() == Control::Anchor::kStretch;
+  if (!follows || control.anchor() == Control::Anchor::kNone) return area;
+  if (control.anchor() == Control::Anchor::kRight) area.left += wider;
+  area.right += wider;
+  return area;
+}
+
+void FormWindow::PlaceAll() {
+  for (Control* control : form_.controls()) {
+    if (control->view() == nullptr) continue;
+    if (auto* view = dynamic_cast<ControlView*>(control->view())) view->Place();
+  }
+}
+
+void FormWindow::Resize() {
+  const SIZE size = Size();
+  RECT now;
+  GetWindowRect(window_, &now);
+  if (now.right - now.left == size.cx && now.bottom - now.top == size.cy) return;
+  POINT corner{now.left, now.top};
+  if (IsWindowVisible(window_)) Fit(corner, size);
+  resizing_ = true;
+  SetWindowPos(window_, nullptr, corner.x, corner.y, size.cx, size.cy,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+  resizing_ = false;
+  if (widens_) PlaceAll();
+}
+
+void FormWindow::OnUserSize(int width) {
+  // Only the width is the user's.
+  const int notional = NotionalWidth(width, *metrics_);
+  if (notional == form_.width()) return;
+  desk_.Deliver([&] { form_.UserResize(notional, form_.height()); });
+  if (window_ != nullptr) PlaceAll();
+}
+
+void FormWindow::OnResolution(int dpi, const RECT& suggested) {
+  metrics_ = std::make_unique<Metrics>(dpi);
+  const SIZE size = Size();
+  resizing_ = true;
+  SetWindowPos(window_, nullptr, suggested.left, suggested.top, size.cx, size.cy,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+  resizing_ = false;
+  for (Control* control : form_.controls()) {
+    if (control->view() == nullptr) continue;
+    if (auto* view = dynamic_cast<ControlView*>(control->view())) view->Rescale();
+  }
+  InvalidateRect(window_, nullptr, TRUE);
+}
+
+void FormWindow::LimitSize(MINMAXINFO& limits) const {
+  if (!widens_) return;
+  const SIZE size = Size();
+  const int narrower = metrics_->Pixels(form_.width()) - metrics_->Pixels(design_width_);
+  limits.ptMinTrackSize = {size.cx - std::max(0, narrower), size.cy};
+  limits.ptMaxTrackSize.y = size.cy;
+}
+
+LRESULT FormWindow::HitTest(WPARAM wparam, LPARAM lparam) const {
+  const LRESULT hit = DefWindowProcW(window_, WM_NCHITTEST, wparam, lparam);
+  switch (hit) {
+    // The height is the program's.
+    case HTTOP:
+    case HTBOTTOM:
+      return HTBORDER;
+    case HTTOPLEFT:
+    case HTBOTTOMLEFT:
+      return HTLEFT;
+    case HTTOPRIGHT:
+    case HTBOTTOMRIGHT:
+      return HTRIGHT;
+    default:
+      return hit;
+  }
+}
+
+void FormWindow::Fit(POINT& corner, SIZE size) const {
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoW(MonitorFromWindow(window_, MONITOR_DEFAULTTONEAREST), &monitor);
+  const RECT& work = monitor.rcWork;
+  corner.x = std::max(work.left, std::min(corner.x, work.right - size.cx));
+  corner.y = std::max(work.top, std::min(corner.y, work.bottom - size.cy));
+}
+
+void FormWindow::Centre() {
+  POINT cursor{};
+  GetCursorPos(&cursor);
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoW(MonitorFromPoint(cursor, MONITOR_DEFAULTTOPRIMARY), &monitor);
+  const RECT& work = monitor.rcWork;
+  // First onto the monitor, which may bring its own resolution and with it another size.
+  resizing_ = true;
+  SetWindowPos(window_, nullptr, work.left, work.top, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  const SIZE size = Size();
+  SetWindowPos(window_, nullptr, (work.left + work.right - size.cx) / 2,
+               (work.top + work.bottom - size.cy) / 2, size.cx, size.cy,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+  resizing_ = false;
+}
+
+}  // namespace orvik::forms::win32

@@ -1,0 +1,93 @@
+// The window of a form.
+#pragma once
+
+#include <memory>
+
+#include "forms/form.h"
+#include "forms/win32/desk.h"
+#include "forms/win32/metrics.h"
+#include "forms/win32/name_tag.h"
+#include "forms/win32/taskbar_button.h"
+
+namespace orvik::forms::win32 {
+
+class ControlView;
+
+// Made invisible, with all its controls, when the form loads.
+class FormWindow : public View, public Shown {
+ public:
+  FormWindow(Form& form, Desk& desk);
+  ~FormWindow() override;
+  FormWindow(const FormWindow&) = delete;
+  FormWindow& operator=(const FormWindow&) = delete;
+
+  Form& form() const { return form_; }
+  Desk& desk() const { return desk_; }
+  HWND window() const { return window_; }
+  const Metrics& metrics() const { return *metrics_; }
+  TaskbarButton& taskbar_button() { return taskbar_button_; }
+
+  // Brings the form in front of the user, with the keyboard in its first field.
+  void Show();
+  // Destroys the window. The object stays until its routines have returned.
+  void Close();
+  void Changed(Property property) { desk_.refresher().Mark(*this, property); }
+  void Refresh(Changes changes) override;
+
+  // The control that has the keyboard; nullptr when none has.
+  Control* Focused() const;
+  // Moves the keyboard to the next (1) or previous (-1) control that takes it, or to the form
+  // itself when there is none.
+  void MoveFocus(int step);
+  // Moves the keyboard on when the control that has it can't be reached any more.
+  void CheckFocus();
+  // The button that Enter presses when the focused control has no use of it.
+  Control* DefaultButton() const;
+
+  // For the views of controls.
+  HWND ParentOf(const Control& control) const;
+  HMENU IdOf(const Control& control) const;
+  // Where a control lies in its parent, in pixels: its bounds at this resolution, moved or widened
+  // as the user has widened the form.
+  RECT AreaOf(const Control& control) const;
+  void AddHint(const ControlView& view);
+  // Hands on what a control's window tells its parent, whichever window that is. False when it is
+  // for no view.
+  bool FromControl(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result) const;
+
+ private:
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
+  void MakeWindow();
+  void PlaceAll();
+  void Resize();
+  void OnUserSize(int width);
+  void OnResolution(int dpi, const RECT& suggested);
+  void OnTimer(UINT_PTR id) const;
+  void LimitSize(MINMAXINFO& limits) const;
+  LRESULT HitTest(WPARAM wparam, LPARAM lparam) const;
+  void Fit(POINT& corner, SIZE size) const;
+  void Centre();
+  SIZE ClientSize() const;
+  SIZE Size() const;
+  bool FocusIfPossible(const Control& control) const;
+
+  Form& form_;
+  Desk& desk_;
+  const int design_width_;
+  // True for a form with controls that follow its width: the user may widen it.
+  const bool widens_;
+  const DWORD style_;
+  std::unique_ptr<Metrics> metrics_;
+  HWND window_ = nullptr;
+  HWND hints_ = nullptr;
+  NameTag tag_;
+  TaskbarButton taskbar_button_;
+  Control* last_focus_ = nullptr;
+  bool resizing_ = false;
+};
+
+// The window of a loaded form.
+FormWindow& WindowOf(const Form& form);
+
+}  // namespace orvik::forms::win32

@@ -1,0 +1,50 @@
+#include "forms/win32/label_view.h"
+
+#include "forms/win32/form_window.h"
+
+namespace orvik::forms::win32 {
+
+namespace {
+
+// Room for two lines, by the line height of the layouts.
+constexpr int kTwoLines = 2 * 195;
+
+// A label of one line says by dots that it is cut; a higher one breaks its lines.
+DWORD CutStyle(const Label& label) {
+  if (label.bounds().height >= kTwoLines) return 0;
+  return label.cut() == Label::Cut::kPath ? SS_PATHELLIPSIS : SS_ENDELLIPSIS;
+}
+
+}  // namespace
+
+LabelView::LabelView(Label& label, FormWindow& form) : ControlView(label, form), label_(label) {
+  // A path may hold an ampersand, which is no underlining here.
+  Create(L"STATIC", label.caption(), SS_LEFT | SS_NOTIFY | SS_NOPREFIX | CutStyle(label));
+}
+
+RECT LabelView::Area() const {
+  RECT area = ControlView::Area();
+  // A low label keeps its middle and gets the height that the font needs.
+  const int missing = form().metrics().line_height() - (area.bottom - area.top);
+  if (missing > 0) {
+    area.top -= missing / 2;
+    area.bottom += missing - missing / 2;
+  }
+  return area;
+}
+
+void LabelView::Refresh(Changes changes) {
+  ControlView::Refresh(changes);
+  if ((changes & Bit(Property::kCaption)) != 0) SetWindowTextW(window(), Wide(label_.caption()));
+}
+
+void LabelView::OnCommand(WORD code) {
+  if (code == STN_CLICKED) Deliver([&] { control().UserClick(); });
+  if (code == STN_DBLCLK) {
+    // The system sends this in place of the second click.
+    Deliver([&] { control().UserClick(); });
+    Deliver([&] { control().UserDoubleClick(); });
+  }
+}
+
+}  // namespace orvik::forms::win32

@@ -1,0 +1,18 @@
+// A decorative line.
+#pragma once
+
+#include "forms/simple_controls.h"
+#include "forms/win32/control_view.h"
+
+namespace orvik::forms::win32 {
+
+// Level and upright lines only: no form has others.
+class LineView : public ControlView {
+ public:
+  LineView(Line& line, FormWindow& form);
+
+ protected:
+  RECT Area() const override;
+};
+
+}  // namespace orvik::forms::win32

@@ -1,0 +1,15 @@
+#include "forms/win32/name_tag.h"
+
+namespace orvik::forms::win32 {
+
+void NameTag::Put(HWND window, const std::string& name) {
+  atom_ = GlobalAddAtomW(Wide(FromUtf8(name)));
+  SetPropW(window, L"Orvik.Name", reinterpret_cast<HANDLE>(static_cast<UINT_PTR>(atom_)));
+}
+
+void NameTag::Remove() {
+  if (atom_ != 0) GlobalDeleteAtom(atom_);
+  atom_ = 0;
+}
+
+}  // namespace orvik::forms::win32

@@ -1,0 +1,43 @@
+#include "forms/win32/refresher.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace orvik::forms::win32 {
+
+namespace {
+
+constexpr Changes kUrgent = Bit(Property::kVisible) | Bit(Property::kEnabled) |
+                            Bit(Property::kLocked) | Bit(Property::kActive) |
+                            Bit(Property::kInterval) | Bit(Property::kBounds) |
+                            Bit(Property::kTopmost);
+
+}  // namespace
+
+void Refresher::Mark(Shown& shown, Property property) {
+  const Changes bit = Bit(property);
+  if (shown.pending_ == 0) waiting_.push_back(&shown);
+  shown.pending_ |= bit;
+  if ((bit & kUrgent) != 0) urgent_ = true;
+}
+
+void Refresher::Forget(Shown& shown) {
+  if (shown.pending_ == 0) return;
+  shown.pending_ = 0;
+  std::erase(waiting_, &shown);
+}
+
+void Refresher::Flush() {
+  // Showing one thing can send messages that end in another flush.
+  if (flushing_) return;
+  flushing_ = true;
+  while (!waiting_.empty()) {
+    Shown* shown = waiting_.back();
+    waiting_.pop_back();
+    shown->Refresh(std::exchange(shown->pending_, 0));
+  }
+  urgent_ = false;
+  flushing_ = false;
+}
+
+}  // namespace orvik::forms::win32
