@@ -3,7 +3,7 @@ add_library(orvik_flags INTERFACE)
 target_include_directories(orvik_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(orvik_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
                                              -Wno-sign-conversion -Werror)
-# GCC 12 takes "literal" + text for overlapping copies (its bug 105651).
+# GCC 12 takes "literal" + text for overlapping copies where there are none.
 target_compile_options(orvik_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 
 option(ORVIK_SANITIZE "Address and undefined behaviour sanitizers" OFF)

@@ -1,5 +1,7 @@
 #include "startup/globals.h"
 
+#include <cstdlib>
+
 #include "fileengine/tree_scan.h"
 #include "forms/front_end.h"
 #include "host/host.h"
@@ -57,6 +59,8 @@ bool IsWinNT() { return host::TheSystem().PlatformId() == 2; }
 void Shutdown() {
   mdlSupport::ClearScanResults();
   forms::Front().EndProcess(forms::EndReason::kShutdown);
+  // Not every compiler believes a virtual routine that it never returns.
+  std::abort();
 }
 
 }  // namespace orvik::mdlMain
