@@ -41,13 +41,6 @@ bool LiesUnderFrame(HWND control) {
   return false;
 }
 
-COMBOBOXINFO PartsOf(HWND combo_box) {
-  COMBOBOXINFO parts{};
-  parts.cbSize = sizeof parts;
-  GetComboBoxInfo(combo_box, &parts);
-  return parts;
-}
-
 }  // namespace
 
 Kind KindOf(HWND control) {
@@ -90,7 +83,17 @@ bool Reachable(HWND control) {
   return true;
 }
 
-HWND FieldOf(HWND combo_box) { return PartsOf(combo_box).hwndItem; }
-HWND ListOf(HWND combo_box) { return PartsOf(combo_box).hwndList; }
+HWND FieldOf(HWND combo_box) { return FindWindowExW(combo_box, nullptr, WC_EDITW, nullptr); }
+
+HWND OpenListOf(HWND combo_box) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(combo_box, &process);
+  HWND open = nullptr;
+  ForEachTopLevel(process, [&](HWND window) {
+    if (IsShown(window) && ClassOf(window) == u"ComboLBox") open = window;
+    return open == nullptr;
+  });
+  return open;
+}
 
 }  // namespace orvik::robot

@@ -23,8 +23,9 @@ HWND FindControl(HWND form, std::string_view name);
 // frame lies over it. What lies beyond the edge of its form is reached by the Tab key.
 bool Reachable(HWND control);
 
-// The field of a combo box, and the list that it drops down.
+// The field of a combo box, and the list that it has dropped down; nullptr while it hasn't. The
+// system tells both to the combo box's own process only, so they are looked for.
 HWND FieldOf(HWND combo_box);
-HWND ListOf(HWND combo_box);
+HWND OpenListOf(HWND combo_box);
 
 }  // namespace orvik::robot

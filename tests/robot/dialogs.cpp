@@ -17,7 +17,11 @@ constexpr int kInputPrompt = 100;
 constexpr int kInputField = 101;
 // The system's folder dialog.
 constexpr int kFolderTitle = 0x3742;
+constexpr int kFolderField = 0x3745;
 constexpr UINT kSelectFolder = WM_USER + 103;
+// The tree of folders may still be filling when it is told where to go.
+constexpr int kFolderTries = 40;
+constexpr int kFolderPause = 50;
 
 void WriteTextOrNull(forms::headless::JsonWriter& json, const std::optional<Text>& text) {
   if (text) {
@@ -82,18 +86,26 @@ bool Dialogs::AnswerInput(HWND dialog) {
   return true;
 }
 
+// The dialog shows the name of the folder that it has come to, of a drive another text.
+void Dialogs::GoToFolder(HWND dialog, const Text& folder) const {
+  const std::size_t size = (folder.size() + 1) * sizeof(char16_t);
+  const RemoteBytes path(program_.process(), size);
+  path.Write(folder.c_str(), size);
+  const TextView name = TextView(folder).substr(folder.rfind(u'\\') + 1);
+  for (int tries = 0; tries < kFolderTries; ++tries) {
+    SendMessageW(dialog, kSelectFolder, TRUE, path.address());
+    if (name.empty() || EqualNoCase(TextOf(GetDlgItem(dialog, kFolderField)), name)) return;
+    Messenger::Listen(kFolderPause);
+  }
+}
+
 bool Dialogs::AnswerFolder(HWND dialog) {
   const auto answer = answers_.ToText(Question::kFolder).text;
   auto& json = record_.Begin("browse");
   json.Name("title").String(TextView(TextOf(GetDlgItem(dialog, kFolderTitle))));
   WriteTextOrNull(json.Name("answer"), answer);
   record_.End();
-  if (answer) {
-    const std::size_t size = (answer->size() + 1) * sizeof(char16_t);
-    const RemoteBytes path(program_.process(), size);
-    path.Write(answer->c_str(), size);
-    SendMessageW(dialog, kSelectFolder, TRUE, path.address());
-  }
+  if (answer) GoToFolder(dialog, *answer);
   Press(dialog, answer ? IDOK : IDCANCEL);
   return true;
 }

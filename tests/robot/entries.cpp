@@ -141,7 +141,9 @@ void ChooseInComboBox(const Found& combo_box, int position) {
   }
   GiveFocus(FieldOf(combo_box.window));
   Ask(combo_box.window, CB_SHOWDROPDOWN, TRUE);
-  PressMouse(PointInListBox(ListOf(combo_box.window), position), Press::kClick);
+  const HWND list = OpenListOf(combo_box.window);
+  if (list == nullptr) throw Refused{combo_box.name + " doesn't open its list"};
+  PressMouse(PointInListBox(list, position), Press::kClick);
 }
 
 }  // namespace orvik::robot

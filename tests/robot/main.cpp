@@ -10,6 +10,7 @@
 #include <string>
 
 #include "base/failure.h"
+#include "robot/listed_drives.h"
 #include "robot/player.h"
 
 namespace {
@@ -102,6 +103,7 @@ int wmain(int count, wchar_t** arguments) {
   std::string reason;
   const auto script = forms::headless::ParseScript(*bytes, reason);
   if (!script) return Refuse(reason);
+  const robot::ListedDrives drives;
   auto program = robot::Program::Start(options->program, options->line);
   if (!program) return Refuse("the program can't be started");
   try {
