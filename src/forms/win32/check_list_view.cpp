@@ -81,7 +81,8 @@ void CheckListView::FitColumn() {
 
 std::vector<int> CheckListView::Selection() const {
   std::vector<int> selection;
-  const auto current = static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
+  const auto current =
+      static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
   bool with_current = false;
   for (WPARAM from = static_cast<WPARAM>(-1);;) {
     const auto next = static_cast<int>(Send(LVM_GETNEXTITEM, from, LVNI_SELECTED));

@@ -141,7 +141,10 @@ LRESULT CALLBACK ComboBoxView::FieldProcedure(HWND window, UINT message, WPARAM 
   // The text of a locked field may still be marked and copied by mouse.
   const bool mouse = message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK;
   if (!mouse && self.RefusesInput(message, wparam)) return 0;
-  return DefSubclassProc(window, message, wparam, lparam);
+  const LRESULT result = DefSubclassProc(window, message, wparam, lparam);
+  // The mark of a field without the keyboard would look like the keyboard.
+  if (message == WM_KILLFOCUS) DefSubclassProc(window, EM_SETSEL, 0, 0);
+  return result;
 }
 
 }  // namespace orvik::forms::win32
