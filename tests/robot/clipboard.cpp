@@ -7,7 +7,8 @@ namespace orvik::robot {
 
 namespace {
 
-// Nothing when another program has the clipboard just now. A clipboard without text has none inside.
+// Nothing when another program has the clipboard just now. A clipboard without text has none
+// inside.
 std::optional<std::optional<Text>> ClipboardText() {
   if (OpenClipboard(nullptr) == 0) return std::nullopt;
   std::optional<Text> text;
@@ -25,10 +26,12 @@ std::optional<std::optional<Text>> ClipboardText() {
 bool ClipboardWatch::Look() {
   const DWORD number = GetClipboardSequenceNumber();
   if (number == number_) return false;
+  DWORD owner = 0;
+  GetWindowThreadProcessId(GetClipboardOwner(), &owner);
   const auto text = ClipboardText();
   if (!text) return true;  // there is more to come
   number_ = number;
-  if (!*text) return false;
+  if (!*text || owner != process_) return false;
   record_.Begin("clipboard").Name("text").String(TextView(**text));
   record_.End();
   return true;

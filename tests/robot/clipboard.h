@@ -8,13 +8,16 @@ namespace orvik::robot {
 
 class ClipboardWatch {
  public:
-  explicit ClipboardWatch(Record& record)
-      : record_(record), number_(GetClipboardSequenceNumber()) {}
+  // `process` is the program's.
+  ClipboardWatch(DWORD process, Record& record)
+      : process_(process), record_(record), number_(GetClipboardSequenceNumber()) {}
 
-  // Writes the text that has come on the clipboard since the last look. True when one has.
+  // Writes the text that the program has put on the clipboard since the last look. True when it
+  // has. What others put there is passed over.
   bool Look();
 
  private:
+  DWORD process_;
   Record& record_;
   DWORD number_;
 };

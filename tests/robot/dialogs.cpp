@@ -59,9 +59,8 @@ void Dialogs::Press(HWND dialog, int button) {
 bool Dialogs::AnswerMessage(HWND box) {
   const std::optional<MessageBoxFacts> facts = ReadMessageBox(box);
   if (!facts) return false;
-  const forms::Answer answer = answers_.ToMessage(facts->buttons, [&](int line) {
-    record_.Error(line, "the message box has no such button");
-  });
+  const forms::Answer answer = answers_.ToMessage(
+      facts->buttons, [&](int line) { record_.Error(line, "the message box has no such button"); });
   auto& json = record_.Begin("message");
   json.Name("text").String(TextView(facts->text));
   json.Name("title").String(TextView(facts->title));

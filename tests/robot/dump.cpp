@@ -30,9 +30,7 @@ void WriteText(JsonWriter& json, const Subject& control, std::string_view member
   json.Name(member).String(TextView(TextOf(control.window)));
 }
 
-void WriteCaption(JsonWriter& json, const Subject& control) {
-  WriteText(json, control, "caption");
-}
+void WriteCaption(JsonWriter& json, const Subject& control) { WriteText(json, control, "caption"); }
 
 void WriteCheckBox(JsonWriter& json, const Subject& control) {
   WriteCaption(json, control);

@@ -20,7 +20,6 @@ POINT OnScreen(HWND window, POINT point) {
   return point;
 }
 
-
 // Near the left edge, where the entry's text is.
 POINT AtText(const RECT& area) {
   constexpr LONG kInside = 4;
@@ -64,8 +63,8 @@ POINT BoxOfRow(const Found& list, int position) {
 
 POINT PointInListView(const Found& list, int position, Spot spot) {
   Ask(list.window, LVM_ENSUREVISIBLE, position, FALSE);
-  const POINT point = spot == Spot::kBox ? BoxOfRow(list, position)
-                                         : AtText(PartOfRow(list, position, LVIR_LABEL));
+  const POINT point =
+      spot == Spot::kBox ? BoxOfRow(list, position) : AtText(PartOfRow(list, position, LVIR_LABEL));
   return OnScreen(list.window, point);
 }
 

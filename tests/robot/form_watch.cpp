@@ -47,4 +47,14 @@ std::vector<HWND> FormWatch::all() const {
   return windows;
 }
 
+std::vector<HWND> FormWatch::Loaded() const {
+  std::vector<HWND> windows = all();
+  ForEachTopLevel(process_, [&](HWND window) {
+    const bool known = std::find(windows.begin(), windows.end(), window) != windows.end();
+    if (!known && !FormNameOf(window).empty()) windows.push_back(window);
+    return true;
+  });
+  return windows;
+}
+
 }  // namespace orvik::robot

@@ -21,6 +21,8 @@ class FormWatch {
   HWND Find(const std::string& form) const;
   // All of them, in the order in which they came.
   std::vector<HWND> all() const;
+  // The same, and then those that are loaded without having been shown.
+  std::vector<HWND> Loaded() const;
 
  private:
   struct Seen {

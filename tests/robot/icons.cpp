@@ -59,8 +59,8 @@ std::vector<DWORD> FromScreen(const RECT& area, SIZE size) {
 std::vector<DWORD> Drawn(const wchar_t* icon, SIZE size, DWORD ground) {
   const Canvas canvas(size);
   const RECT all{0, 0, size.cx, size.cy};
-  const HBRUSH brush = CreateSolidBrush(
-      RGB(ground >> 16U & 0xFFU, ground >> 8U & 0xFFU, ground & 0xFFU));
+  const HBRUSH brush =
+      CreateSolidBrush(RGB(ground >> 16U & 0xFFU, ground >> 8U & 0xFFU, ground & 0xFFU));
   FillRect(canvas.context(), &all, brush);
   DeleteObject(brush);
   DrawIconEx(canvas.context(), 0, 0, LoadIconW(nullptr, icon), size.cx, size.cy, 0, nullptr,

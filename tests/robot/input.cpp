@@ -19,8 +19,8 @@ INPUT KeyInput(WORD code, bool down) {
   input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(code, MAPVK_VK_TO_VSC));
   input.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
   // The keys between the main and the number block.
-  const bool extended = (code >= VK_PRIOR && code <= VK_DOWN) || code == VK_INSERT ||
-                        code == VK_DELETE;
+  const bool extended =
+      (code >= VK_PRIOR && code <= VK_DOWN) || code == VK_INSERT || code == VK_DELETE;
   if (extended) input.ki.dwFlags |= KEYEVENTF_EXTENDEDKEY;
   return input;
 }

@@ -18,8 +18,7 @@ Text EntryText(HWND window, int position, UINT length_message, UINT text_message
   const int length = Ask(window, length_message, position);
   if (length < 0) return {};
   Text text(static_cast<std::size_t>(length) + 1, u'\0');
-  const int copied =
-      Ask(window, text_message, position, reinterpret_cast<LPARAM>(text.data()));
+  const int copied = Ask(window, text_message, position, reinterpret_cast<LPARAM>(text.data()));
   text.resize(static_cast<std::size_t>(std::max(copied, 0)));
   return text;
 }

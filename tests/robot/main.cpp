@@ -30,9 +30,7 @@ struct Options {
 std::optional<Options> ReadOptions(int count, wchar_t** arguments) {
   Options options;
   int at = 1;
-  const auto text = [&](int i) {
-    return robot::FromWide(arguments[i], std::wcslen(arguments[i]));
-  };
+  const auto text = [&](int i) { return robot::FromWide(arguments[i], std::wcslen(arguments[i])); };
   for (; at + 1 < count && text(at).starts_with(u"--") && text(at) != u"--"; at += 2) {
     const Text name = text(at);
     if (name == u"--program") {

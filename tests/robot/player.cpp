@@ -1,5 +1,7 @@
 #include "robot/player.h"
 
+#include <algorithm>
+
 #include "robot/controls.h"
 #include "robot/dump.h"
 #include "robot/registry.h"
@@ -47,12 +49,16 @@ bool Player::PlayLine(const script::ScriptLine& line) {
 void Player::Do(const script::Event& event) {
   std::visit(Overloaded{
                  [&](const script::RunCommand& command) {
-                   if (!session_.RunCommand(command.command)) throw Refused{"no such command"};
+                   if (!session_.RunCommand(command.command)) {
+                     throw Refused{"the command interpreter didn't start"};
+                   }
                  },
                  [&](const script::ShowRegistry& shown) {
+                   const auto key = script::ReadKeyPath(shown.key);
+                   if (!key) throw Refused{"no such root of the registry"};
                    auto& json = session_.record().Begin("registry");
                    json.Name("key").String(TextView(shown.key));
-                   WriteRegistryKey(json.Name("values"), shown.key);
+                   WriteRegistryKey(json.Name("values"), *key);
                    session_.record().End();
                  },
                  [&](const script::Dump& dump) { Show(dump); },
@@ -69,13 +75,14 @@ void Player::Do(const script::Event& event) {
 }
 
 void Player::Show(const script::Dump& event) {
-  std::vector<HWND> forms = session_.forms().all();
-  if (!event.target.form.empty()) {
-    const HWND form = session_.forms().Find(event.target.form);
-    if (form == nullptr) throw Refused{"no form " + event.target.form + " is loaded"};
-    forms = {form};
+  const std::string& name = event.target.form;
+  const std::vector<HWND> forms = session_.forms().Loaded();
+  if (!name.empty() && std::none_of(forms.begin(), forms.end(),
+                                    [&](HWND form) { return FormNameOf(form) == name; })) {
+    throw Refused{"no form " + name};
   }
   for (HWND form : forms) {
+    if (!name.empty() && FormNameOf(form) != name) continue;
     WriteForm(session_.record().Begin("dump"), session_.program().process(), form);
     session_.record().End();
   }

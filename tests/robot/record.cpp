@@ -24,7 +24,8 @@ void Record::Error(int line, std::string_view text) {
 
 void Record::Finish(Reason reason) {
   if (reason == Reason::kEnded) gone_.clear();
-  Begin("end").Name("reason").String(std::string_view(reason == Reason::kEnded ? "ended" : "script"));
+  Begin("end").Name("reason").String(
+      std::string_view(reason == Reason::kEnded ? "ended" : "script"));
   End();
 }
 

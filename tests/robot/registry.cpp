@@ -9,15 +9,9 @@ namespace {
 // A key open for reading; none when it doesn't exist.
 class OpenKey {
  public:
-  explicit OpenKey(TextView key) {
-    const std::size_t slash = key.find(u'\\');
-    const TextView root = key.substr(0, slash);
-    const Text path(slash == TextView::npos ? TextView() : key.substr(slash + 1));
-    HKEY handle = nullptr;
-    if (root == u"HKEY_LOCAL_MACHINE") handle = HKEY_LOCAL_MACHINE;
-    if (root == u"HKEY_CLASSES_ROOT") handle = HKEY_CLASSES_ROOT;
-    if (handle == nullptr) return;
-    if (RegOpenKeyExW(handle, Wide(path), 0, KEY_READ, &key_) != ERROR_SUCCESS) key_ = nullptr;
+  explicit OpenKey(const forms::headless::KeyPath& key) {
+    const auto root = reinterpret_cast<HKEY>(static_cast<LONG_PTR>(static_cast<LONG>(key.root)));
+    if (RegOpenKeyExW(root, Wide(key.path), 0, KEY_READ, &key_) != ERROR_SUCCESS) key_ = nullptr;
   }
   ~OpenKey() {
     if (key_ != nullptr) RegCloseKey(key_);
@@ -65,7 +59,7 @@ std::vector<Value> ValuesOf(HKEY key) {
 
 }  // namespace
 
-void WriteRegistryKey(forms::headless::JsonWriter& json, const Text& key) {
+void WriteRegistryKey(forms::headless::JsonWriter& json, const forms::headless::KeyPath& key) {
   const OpenKey open(key);
   if (open.get() == nullptr) {
     json.Null();

@@ -26,7 +26,7 @@ class Session {
         patience_(patience),
         forms_(program.id(), record),
         dialogs_(program, messenger_, record),
-        clipboard_(record) {}
+        clipboard_(program.id(), record) {}
 
   Program& program() const { return program_; }
   Record& record() const { return record_; }
