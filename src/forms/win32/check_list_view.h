@@ -14,7 +14,6 @@ class CheckListView : public ControlView {
   void Place() override;
   void Refresh(Changes changes) override;
   std::optional<LRESULT> OnNotify(NMHDR& header) override;
-  void OnFocus(bool here) override;
   bool TakesFocus() const override { return true; }
 
  protected:
@@ -27,6 +26,7 @@ class CheckListView : public ControlView {
   void FitColumn();
   void Tell(NMLVDISPINFOW& asked) const;
   void Check(int position, bool checked);
+  void OnSpace();
   void OnClick(const NMITEMACTIVATE& click);
   void OnSelection();
   std::vector<int> Selection() const;
