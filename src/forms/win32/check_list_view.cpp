@@ -190,6 +190,17 @@ std::optional<LRESULT> CheckListView::OnNotify(NMHDR& header) {
   }
 }
 
+void CheckListView::OnFocus(bool here) {
+  if (!here || list_.count() == 0) return;
+  if (Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED) >= 0) return;
+  // The first key already finds a row to work on.
+  const Showing showing(*this);
+  LVITEMW state{};
+  state.stateMask = LVIS_FOCUSED;
+  state.state = LVIS_FOCUSED;
+  Send(LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&state));
+}
+
 LRESULT CheckListView::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   if (message == WM_KEYDOWN && wparam == VK_SPACE) {
     const auto position =

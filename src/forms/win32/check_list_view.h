@@ -14,6 +14,7 @@ class CheckListView : public ControlView {
   void Place() override;
   void Refresh(Changes changes) override;
   std::optional<LRESULT> OnNotify(NMHDR& header) override;
+  void OnFocus(bool here) override;
   bool TakesFocus() const override { return true; }
 
  protected:
