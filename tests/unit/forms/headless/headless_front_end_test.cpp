@@ -501,6 +501,19 @@ TEST_F(FrontEndTest, TimersFireInYieldsWhenTheirTimeHasCome) {
                           End("script")));
 }
 
+TEST_F(FrontEndTest, APassOfTheMessageLoopFollowsEachLine) {
+  demo.prepare = [](frmDemo& form) {
+    form.clExit.on_timer = [] { Demo::Note("tick"); };
+    form.btStart.on_click = [&form] {
+      form.clExit.SetActive(true);
+      Front().WaitForInput(1000);
+    };
+    form.pbDest.on_click = [] { Demo::Note("next line"); };
+  };
+  EXPECT_THAT(demo.Run("click frmDemo.btStart\nclick frmDemo.pbDest").lines,
+              ElementsAre(kShow, Note("tick"), Note("next line"), End("script")));
+}
+
 // What WaitWithMessages does: wait, yield, and again while there is input and time left.
 void WaitWithMessages(std::int32_t interval) {
   const std::int64_t end = std::int64_t{host::TheSystem().Ticks()} + interval;
