@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "robot/file_dialog.h"
 #include "robot/message_box.h"
 #include "robot/remote.h"
 #include "robot/window_facts.h"
@@ -49,6 +50,7 @@ bool Dialogs::Look() {
 bool Dialogs::Answer(HWND dialog) {
   if (GetDlgItem(dialog, kInputField) != nullptr) return AnswerInput(dialog);
   if (GetDlgItem(dialog, kFolderTitle) != nullptr) return AnswerFolder(dialog);
+  if (IsFileDialog(dialog)) return AnswerFile(dialog);
   return AnswerMessage(dialog);
 }
 
@@ -105,6 +107,20 @@ bool Dialogs::AnswerFolder(HWND dialog) {
   WriteTextOrNull(json.Name("answer"), answer);
   record_.End();
   if (answer) GoToFolder(dialog, *answer);
+  Press(dialog, answer ? IDOK : IDCANCEL);
+  return true;
+}
+
+bool Dialogs::AnswerFile(HWND dialog) {
+  const auto answer = answers_.ToText(Question::kFile).text;
+  const bool opens = PurposeOf(dialog) == forms::FileDialog::kOpen;
+  auto& json = record_.Begin(opens ? "open" : "save");
+  json.Name("filter").String(TextView(FilterOf(program_.process(), dialog)));
+  WriteTextOrNull(json.Name("answer"), answer);
+  record_.End();
+  if (answer) {
+    SendMessageW(NameFieldOf(dialog), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Wide(*answer)));
+  }
   Press(dialog, answer ? IDOK : IDCANCEL);
   return true;
 }

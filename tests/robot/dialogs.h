@@ -27,6 +27,7 @@ class Dialogs {
   bool AnswerMessage(HWND box);
   bool AnswerInput(HWND dialog);
   bool AnswerFolder(HWND dialog);
+  bool AnswerFile(HWND dialog);
   void GoToFolder(HWND dialog, const Text& folder) const;
   void Press(HWND dialog, int button);
 

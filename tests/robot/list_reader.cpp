@@ -70,7 +70,8 @@ ListState ReadListView(HANDLE process, HWND list) {
   for (int at = -1; (at = Ask(list, LVM_GETNEXTITEM, at, LVNI_SELECTED)) >= 0;) {
     state.selected.push_back(at);
   }
-  state.index = Ask(list, LVM_GETNEXTITEM, -1, LVNI_FOCUSED);
+  // A list that has the keyboard has a focused row even when none has been taken.
+  if (!state.selected.empty()) state.index = Ask(list, LVM_GETNEXTITEM, -1, LVNI_FOCUSED);
   return state;
 }
 

@@ -164,5 +164,17 @@ TEST_F(Keyboard, EscReachesAFormWithoutFields) {
   EXPECT_EQ(press, kKeyEscape);
 }
 
+TEST_F(Keyboard, LabelThatDoesSomethingIsPressedByKeys) {
+  LabelForm form;
+  int clicks = 0;
+  form.label.on_click = [&] { ++clicks; };
+  form.Show();
+  Pump();
+  ASSERT_EQ(win32::WindowOf(form).Focused(), &form.label);
+  Press(VK_RETURN);
+  Press(VK_SPACE);
+  EXPECT_EQ(clicks, 2);
+}
+
 }  // namespace
 }  // namespace orvik::forms::win32

@@ -132,6 +132,17 @@ TEST_F(Lists, SpaceTogglesTheCurrentRow) {
   EXPECT_FALSE(form_.checks.Checked(1));
 }
 
+TEST_F(Lists, FirstKeyFindsARow) {
+  for (TextView item : {u"а", u"б"}) form_.checks.Add(item);
+  Pump();
+  SetFocus(WindowOf(form_.checks));
+  EXPECT_EQ(Send(form_.checks, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED), -1)
+      << "the keyboard alone chooses none";
+  Press(VK_SPACE);
+  EXPECT_TRUE(form_.checks.Checked(0));
+  EXPECT_EQ(form_.checks.index(), 0);
+}
+
 TEST_F(Lists, MouseTogglesOnTheBoxAndSelectsBesideIt) {
   for (TextView item : {u"аааа", u"бббб"}) form_.checks.Add(item);
   Pump();

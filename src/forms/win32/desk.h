@@ -35,13 +35,11 @@ class Desk {
   void Forget(Form& form) { std::erase(retired_, &form); }
   // Frees those views. Only from where no event is being handled.
   void FreeRetired();
-  bool handling_event() const { return depth_ > 0; }
 
  private:
   Refresher refresher_;
   std::vector<FormWindow*> windows_;
   std::vector<Form*> retired_;
-  int depth_ = 0;
 };
 
 // While this lives the user can't get at any form, except by the one window that owns the dialog:

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <climits>
+#include <csignal>
 
 #include "host/posix/file_system.h"
 #include "host/posix/native_files.h"
@@ -56,7 +57,7 @@ struct PosixHost::Parts {
         drives(options.drives, options.drive_types, codec),
         files(codec, drives),
         registry(options.registry_file, CodePage::Numbered(options.code_page)),
-        shell(files.finder(), drives),
+        shell(files.finder()),
         system(options.environment, drives, options.code_page, options.oem_page) {}
 
   NameCodec codec;
@@ -69,6 +70,8 @@ struct PosixHost::Parts {
 };
 
 PosixHost::PosixHost(Options options) {
+  // A limit for the length of files is an error like a full disk, not the end of the process.
+  ::signal(SIGXFSZ, SIG_IGN);
   const auto drive = options.drives.find(u'C');
   if (drive != options.drives.end() && drive->second == DefaultDriveC()) {
     MakeFolders(drive->second + "/Windows/Temp");
