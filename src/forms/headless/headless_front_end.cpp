@@ -121,8 +121,11 @@ void HeadlessFrontEnd::TakeAhead() {
 }
 
 void HeadlessFrontEnd::Run() {
-  FinishPending();
-  if (LoadedForms().empty()) throw RunEnded{RunEnd::kReturned};
+  if (LoadedForms().empty()) {
+    FinishPending();
+    throw RunEnded{RunEnd::kReturned};
+  }
+  // What waits for a yield that the start of the program didn't have is left for the first line.
   FireTimers();
   while (next_ < script_.size()) {
     // Answers need no yield: events for later yields wait for the line behind them.

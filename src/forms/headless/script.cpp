@@ -247,7 +247,7 @@ std::optional<Script> ParseScript(std::string_view utf8, std::string& reason) {
     ScriptLine line;
     line.number = number;
     if (!ReadLine(text, line, reason)) {
-      reason = "script line " + std::to_string(number) + ": " + reason;
+      reason.insert(0, "script line " + std::to_string(number) + ": ");
       return std::nullopt;
     }
     script.push_back(std::move(line));

@@ -58,6 +58,7 @@ FormWindow::FormWindow(Form& form, Desk& desk)
 
 FormWindow::~FormWindow() {
   Close();
+  desk_.Forget(form_);
   desk_.refresher().Forget(*this);
 }
 
@@ -73,14 +74,16 @@ void FormWindow::MakeWindow() {
   tag_.Put(window_, form_.name());
   // The system may have put it on another monitor.
   if (DpiOf(window_) != metrics_->dpi()) metrics_ = std::make_unique<Metrics>(DpiOf(window_));
+  // Without an owner: Wine wouldn't put a form on top that owns a window on top.
   hints_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0,
-                           0, 0, window_, nullptr, GetModuleHandleW(nullptr), nullptr);
+                           0, 0, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
   SendMessageW(hints_, TTM_SETMAXTIPWIDTH, 0, metrics_->Scaled(400));
 }
 
 void FormWindow::Close() {
   if (window_ == nullptr) return;
   desk_.Leave(*this);
+  DestroyWindow(hints_);
   DestroyWindow(window_);
 }
 

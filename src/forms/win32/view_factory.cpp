@@ -59,10 +59,9 @@ std::unique_ptr<Adapter> MakeView(Control& control, FormWindow& form) {
     case Kind::kTreeView:
     case Kind::kStatusBar:
     case Kind::kUpDown:
-      return nullptr;
     // Has no window of its own.
     case Kind::kCommonDialog:
-      return nullptr;
+      break;
   }
   return nullptr;
 }

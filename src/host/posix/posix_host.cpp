@@ -56,7 +56,7 @@ struct PosixHost::Parts {
         drives(options.drives, options.drive_types, codec),
         files(codec, drives),
         registry(options.registry_file, CodePage::Numbered(options.code_page)),
-        shell(files.finder(), drives),
+        shell(files.finder()),
         system(options.environment, drives, options.code_page, options.oem_page) {}
 
   NameCodec codec;

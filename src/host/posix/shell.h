@@ -1,7 +1,6 @@
 // What the desktop does for the program on Linux.
 #pragma once
 
-#include "host/posix/drive_map.h"
 #include "host/posix/path_finder.h"
 #include "host/shell.h"
 
@@ -10,7 +9,7 @@ namespace orvik::host::posix {
 // Shortcuts aren't read or written yet: no file is one, and none is made.
 class PosixShell : public Shell {
  public:
-  PosixShell(PathFinder& finder, const DriveMap& drives) : finder_(finder), drives_(drives) {}
+  explicit PosixShell(PathFinder& finder) : finder_(finder) {}
 
   // Into the trash folder. There is no dialog of the desktop's, so nobody is asked.
   bool Recycle(const Text& path, Questions questions) override;
@@ -25,7 +24,6 @@ class PosixShell : public Shell {
   std::string Argument(const Text& word);
 
   PathFinder& finder_;
-  const DriveMap& drives_;
 };
 
 }  // namespace orvik::host::posix

@@ -54,7 +54,7 @@ Shortcut Contents(const ComPointer<IShellLinkW>& link) {
   // Every call that succeeds ends its text with a zero, so what an earlier one left doesn't matter;
   // one that fails must leave nothing.
   const auto read = [&](HRESULT result) {
-    const Text text = SUCCEEDED(result) ? FromWide(buffer.c_str()) : Text();
+    Text text = SUCCEEDED(result) ? FromWide(buffer.c_str()) : Text();
     buffer[0] = L'\0';
     return text;
   };

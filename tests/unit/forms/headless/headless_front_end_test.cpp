@@ -282,6 +282,31 @@ TEST_F(FrontEndTest, DuringServesTheStartOfTheProgram) {
                           End("script")));
 }
 
+TEST_F(FrontEndTest, AYieldThatTheStartDidNotHaveIsOneOfTheFirstLine) {
+  demo.program = [](const Text&) {
+    frmDemo& form = The<frmDemo>();
+    form.load = [](frmDemo& loading) {
+      Noting(loading.pbDest, "inside");
+      loading.btStart.on_click = [] {
+        for (int i = 1; i <= 2; ++i) {
+          Demo::Note(std::to_string(i));
+          Yield();
+        }
+      };
+    };
+    form.Show();
+    Yield();
+  };
+  EXPECT_THAT(
+      demo.Run("during 2 click frmDemo.pbDest\nanswer message ok\nclick frmDemo.btStart").lines,
+      ElementsAre(kShow, Note("1"), Note("2"), Note("inside"), End("script")));
+}
+
+TEST_F(FrontEndTest, WithoutAFormNoYieldCanComeAnyMore) {
+  demo.program = [](const Text&) { Yield(); };
+  EXPECT_THAT(demo.Run("during 2 dump\nwait 0").lines, ElementsAre(Error(1), End("returned")));
+}
+
 TEST_F(FrontEndTest, DuringCountsTheYieldsOfTheNextLine) {
   demo.prepare = [](frmDemo& form) {
     form.btStart.on_click = [] {
@@ -367,7 +392,7 @@ TEST_F(FrontEndTest, AYieldThatNeverComesIsAnError) {
     form.btStart.on_click = [] { Yield(); };
     Noting(form.pbDest, "inside");
   };
-  EXPECT_THAT(demo.Run("during 1 click frmDemo.pbDest\nwait 0\n"
+  EXPECT_THAT(demo.Run("during 1 click frmDemo.pbDest\ncheck frmDemo.cxReport on\n"
                        "during 2 click frmDemo.pbDest\nclick frmDemo.btStart\n"
                        "click frmDemo.btStart\nduring 1 dump")
                   .lines,
@@ -498,9 +523,6 @@ TEST_F(FrontEndTest, AWaitOfTheProgramYieldsToo) {
   };
   // What the user does is there at the beginning of the wait whose yield it is.
   EXPECT_THAT(demo.Run("during 2 click frmDemo.pbDest\nclick frmDemo.btStart").lines,
-              ElementsAre(kShow, Error(1), Note("first over 1000"), Note("second over 2000"),
-                          End("script")));
-  EXPECT_THAT(demo.Run("wait 0\nduring 2 click frmDemo.pbDest\nclick frmDemo.btStart").lines,
               ElementsAre(kShow, Note("first over 1000"), Note("inside 1000"),
                           Note("second over 2000"), End("script")));
 }

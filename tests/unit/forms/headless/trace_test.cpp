@@ -53,53 +53,51 @@ TEST(Trace, TheFormItselfHasNoControlsName) {
 
 TEST(Trace, ValuesAreThoseOfADump) {
   EXPECT_THAT(Changes([](frmDemo& form) {
-  form.frCRC_1.SetCaption(u"x1");
-  form.btStart.SetEnabled(false);
-  form.cxReport.SetValue(1);
-  form.txAnswer.SetText(u"t");
-  form.cbOut.SetLocked(true);
-  form.pbMain.SetMax(9);
-  form.pbMain.SetValue(4);
-  form.clExit.SetInterval(5);
-  form.clExit.SetActive(true);
-  form.sbMain.SetText(u"s");
+                form.frCRC_1.SetCaption(u"x1");
+                form.btStart.SetEnabled(false);
+                form.cxReport.SetValue(1);
+                form.txAnswer.SetText(u"t");
+                form.cbOut.SetLocked(true);
+                form.pbMain.SetMax(9);
+                form.pbMain.SetValue(4);
+                form.clExit.SetInterval(5);
+                form.clExit.SetActive(true);
+                form.sbMain.SetText(u"s");
               }),
-              ElementsAre(R"("frCRC(1)","property":"caption","value":"x1"})",
-                          R"("btStart","property":"enabled","value":false})",
-                          R"("cxReport","property":"value","value":1})",
-                          R"("txAnswer","property":"text","value":"t"})",
-                          R"("cbOut","property":"locked","value":true})",
-                          R"("pbMain","property":"max","value":9})",
-                          R"("pbMain","property":"value","value":4})",
-                          R"("clExit","property":"interval","value":5})",
-                          R"("clExit","property":"active","value":true})",
-                          R"("sbMain","property":"text","value":"s"})"));
+              ElementsAre(R"-("frCRC(1)","property":"caption","value":"x1"})-",
+                          R"-("btStart","property":"enabled","value":false})-",
+                          R"-("cxReport","property":"value","value":1})-",
+                          R"-("txAnswer","property":"text","value":"t"})-",
+                          R"-("cbOut","property":"locked","value":true})-",
+                          R"-("pbMain","property":"max","value":9})-",
+                          R"-("pbMain","property":"value","value":4})-",
+                          R"-("clExit","property":"interval","value":5})-",
+                          R"-("clExit","property":"active","value":true})-",
+                          R"-("sbMain","property":"text","value":"s"})-"));
 }
 
 TEST(Trace, EntriesNameTheirPosition) {
   EXPECT_THAT(Changes([](frmDemo& form) {
-  form.cbOut.Add(u"c");
-  form.lbBoxes.Add(u"a");
-  form.lbBoxes.Add(u"b");
-  form.lbBoxes.SetItem(1, u"B");
-  form.lbBoxes.SetChecked(1, true);
-  form.lbBoxes.SetSelected(1, true);
-  form.lbBoxes.Remove(0);
-  form.lbBoxes.Clear();
-  form.cbOut.UserSelect(0);
+                form.cbOut.Add(u"c");
+                form.lbBoxes.Add(u"a");
+                form.lbBoxes.Add(u"b");
+                form.lbBoxes.SetItem(1, u"B");
+                form.lbBoxes.SetChecked(1, true);
+                form.lbBoxes.SetSelected(1, true);
+                form.lbBoxes.Remove(0);
+                form.lbBoxes.Clear();
+                form.cbOut.UserSelect(0);
               }),
-              ElementsAre(R"("cbOut","property":"add","value":"c"})",
-                          R"("lbBoxes","property":"add","value":"a"})",
-                          R"("lbBoxes","property":"add","value":"b"})",
-                          R"("lbBoxes","property":"item(1)","value":"B"})",
-                          R"("lbBoxes","property":"checked(1)","value":true
-})",
-                          R"("lbBoxes","property":"selected","value":[1]})",
-                          R"("lbBoxes","property":"remove(0)","value":null
-})",
-                          R"("lbBoxes","property":"clear","value":null})",
-                          R"("cbOut","property":"text","value":"c"})",
-                          R"("cbOut","property":"index","value":0})"));
+              ElementsAre(R"-("cbOut","property":"add","value":"c"})-",
+                          R"-("lbBoxes","property":"add","value":"a"})-",
+                          R"-("lbBoxes","property":"add","value":"b"})-",
+                          R"-("lbBoxes","property":"item(1)","value":"B"})-",
+                          R"-("lbBoxes","property":"checked(1)","value":true})-",
+                          R"-("lbBoxes","property":"selected","value":[1]})-",
+                          R"-("lbBoxes","property":"remove(0)","value":null})-",
+                          R"-("lbBoxes","property":"clear","value":null})-",
+                          R"-("cbOut","property":"text","value":"c"})-",
+                          R"-("cbOut","property":"index","value":0})-"));
 }
 
 TEST(Trace, WhatNoDumpShowsIsNotWritten) {

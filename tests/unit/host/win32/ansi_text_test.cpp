@@ -40,6 +40,14 @@ TEST(AnsiPath, RefusesWhatNoOperationTakes) {
   EXPECT_FALSE(AnsiPath(Text(u"C:\\a\0b", 6)));
 }
 
+TEST(AnsiPath, AColonIsADrives) {
+  EXPECT_TRUE(AnsiPath(u"c:"));
+  EXPECT_TRUE(AnsiPath(u"T:a"));
+  for (const Text path : {u":", u"1:\\x", u"C:\\f:stream", u"f:\\f:", u"ab:", u"C::", u"Ж:\\x"}) {
+    EXPECT_FALSE(AnsiPath(path)) << ToUtf8(path);
+  }
+}
+
 TEST(AnsiPath, TakesTheLongestPathAndNoLonger) {
   EXPECT_TRUE(AnsiPath(Text(kLongestPath, u'a')));
   EXPECT_FALSE(AnsiPath(Text(kLongestPath + 1, u'a')));
