@@ -1,10 +1,9 @@
 #ifdef _WIN32
 
-#include <windows.h>
-// The services of the shell need the one above.
-#include <shellapi.h>
-
 #include "forms/headless/native.h"
+#include "host/win32/windows_api.h"
+// What it declares needs the one above.
+#include <shellapi.h>
 
 namespace orvik::forms::headless {
 

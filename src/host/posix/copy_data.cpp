@@ -92,7 +92,7 @@ bool CopyAroundHoles(int source, int target, off_t length) {
 bool ReserveRoom(const struct stat& source_status, int target, const struct stat& target_status) {
   const off_t wanted = source_status.st_size;
   if (wanted <= target_status.st_size || HasHoles(source_status)) return true;
-  return ::fallocate(target, FALLOC_FL_KEEP_SIZE, 0, wanted) == 0 ||
+  return ::fallocate(target, 0, 0, wanted) == 0 ||
          (errno != ENOSPC && errno != EDQUOT && errno != EFBIG);
 }
 

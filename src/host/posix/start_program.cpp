@@ -19,6 +19,7 @@ namespace {
   for (int fd = STDIN_FILENO; fd <= STDERR_FILENO && nothing >= 0; ++fd) ::dup2(nothing, fd);
   ::signal(SIGPIPE, SIG_DFL);
   ::signal(SIGINT, SIG_DFL);
+  ::signal(SIGXFSZ, SIG_DFL);
   ::execvp(words[0], words);
   const char failed = 1;
   [[maybe_unused]] const ssize_t told = ::write(pipe, &failed, 1);
