@@ -12,7 +12,7 @@ namespace orvik::host::posix {
 namespace {
 
 // Up to here two plain calls are quicker than a copy inside the kernel.
-constexpr off_t kSmall = 64 * 1024;
+constexpr off_t kSmall = off_t{64} * 1024;
 constexpr std::size_t kMostAtOnce = 0x40000000;
 
 bool WriteAll(int target, const char* bytes, std::size_t count, off_t position) {
