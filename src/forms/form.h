@@ -66,7 +66,7 @@ class Form {
   void SetView(std::unique_ptr<View> view) { view_ = std::move(view); }
 
  protected:
-  // The routines of the form: at load, at unload, after a change of size.
+  // The routines of the form: at load, at unload, at the first showing and after a change of size.
   virtual void OnLoad() {}
   virtual void OnUnload() {}
   virtual void OnResize() {}
