@@ -28,7 +28,7 @@ bool ReadAll(HANDLE file, std::string& bytes) {
 
 bool ReadLine(const wchar_t* path, std::string& line) {
   if (path == nullptr) return ReadAll(GetStdHandle(STD_INPUT_HANDLE), line);
-  const HANDLE file =
+  HANDLE file =
       CreateFileW(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
   if (file == INVALID_HANDLE_VALUE) return false;
   const bool read = ReadAll(file, line);
@@ -44,6 +44,17 @@ std::wstring Wide(const std::string& utf8) {
   return wide;
 }
 
+// A program that must not outlive its starter: whoever ends the starter means the program. What the
+// program itself starts lives on.
+HANDLE DyingWithStarter() {
+  HANDLE job = CreateJobObjectW(nullptr, nullptr);
+  JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
+  limits.BasicLimitInformation.LimitFlags =
+      JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE | JOB_OBJECT_LIMIT_SILENT_BREAKAWAY_OK;
+  SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limits, sizeof limits);
+  return job;
+}
+
 int Run(const wchar_t* program, const std::wstring& line) {
   std::wstring command = L"\"" + std::wstring(program) + L"\"";
   if (!line.empty()) command += L" " + line;
@@ -54,11 +65,14 @@ int Run(const wchar_t* program, const std::wstring& line) {
   startup.hStdOutput = GetStdHandle(STD_OUTPUT_HANDLE);
   startup.hStdError = GetStdHandle(STD_ERROR_HANDLE);
   PROCESS_INFORMATION process = {};
-  if (!CreateProcessW(program, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                      &startup, &process)) {
+  HANDLE job = DyingWithStarter();
+  if (!CreateProcessW(program, command.data(), nullptr, nullptr, TRUE, CREATE_SUSPENDED, nullptr,
+                      nullptr, &startup, &process)) {
     std::fprintf(stderr, "raw-start: error %lu\n", GetLastError());
     return kNotStarted;
   }
+  AssignProcessToJobObject(job, process.hProcess);
+  ResumeThread(process.hThread);
   WaitForSingleObject(process.hProcess, INFINITE);
   DWORD code = kNotStarted;
   GetExitCodeProcess(process.hProcess, &code);

@@ -81,7 +81,8 @@ void CheckListView::FitColumn() {
 
 std::vector<int> CheckListView::Selection() const {
   std::vector<int> selection;
-  const auto current = static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
+  const auto current =
+      static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
   bool with_current = false;
   for (WPARAM from = static_cast<WPARAM>(-1);;) {
     const auto next = static_cast<int>(Send(LVM_GETNEXTITEM, from, LVNI_SELECTED));
@@ -189,11 +190,23 @@ std::optional<LRESULT> CheckListView::OnNotify(NMHDR& header) {
   }
 }
 
+void CheckListView::OnSpace() {
+  if (list_.count() == 0) return;
+  auto position = static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
+  if (position < 0) {
+    // The first key already finds a row to work on.
+    position = 0;
+    LVITEMW state{};
+    state.stateMask = LVIS_FOCUSED | LVIS_SELECTED;
+    state.state = state.stateMask;
+    Send(LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&state));
+  }
+  if (position < list_.count()) Check(position, !list_.Checked(position));
+}
+
 LRESULT CheckListView::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   if (message == WM_KEYDOWN && wparam == VK_SPACE) {
-    const auto position =
-        static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED));
-    if (position >= 0 && position < list_.count()) Check(position, !list_.Checked(position));
+    OnSpace();
     return 0;
   }
   // The box of an entry set from outside, by an aid to access or by a test.

@@ -26,6 +26,7 @@ class CheckListView : public ControlView {
   void FitColumn();
   void Tell(NMLVDISPINFOW& asked) const;
   void Check(int position, bool checked);
+  void OnSpace();
   void OnClick(const NMITEMACTIVATE& click);
   void OnSelection();
   std::vector<int> Selection() const;

@@ -130,7 +130,10 @@ LRESULT ComboBoxView::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     return SendMessageW(field_, WM_SETTEXT, wparam, lparam);
   }
   if (RefusesInput(message, wparam)) return 0;
-  return ControlView::OnMessage(message, wparam, lparam);
+  ++busy_;
+  const LRESULT result = ControlView::OnMessage(message, wparam, lparam);
+  --busy_;
+  return result;
 }
 
 LRESULT CALLBACK ComboBoxView::FieldProcedure(HWND window, UINT message, WPARAM wparam,
@@ -141,7 +144,13 @@ LRESULT CALLBACK ComboBoxView::FieldProcedure(HWND window, UINT message, WPARAM 
   // The text of a locked field may still be marked and copied by mouse.
   const bool mouse = message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK;
   if (!mouse && self.RefusesInput(message, wparam)) return 0;
-  return DefSubclassProc(window, message, wparam, lparam);
+  const LRESULT result = DefSubclassProc(window, message, wparam, lparam);
+  // The field of a box, unlike one alone, doesn't report a text that is set from outside. The box
+  // itself sets one for each choice from the list.
+  if (message == WM_SETTEXT && !self.showing() && self.busy_ == 0) self.OnCommand(CBN_EDITCHANGE);
+  // The mark of a field without the keyboard would look like the keyboard.
+  if (message == WM_KILLFOCUS) DefSubclassProc(window, EM_SETSEL, 0, 0);
+  return result;
 }
 
 }  // namespace orvik::forms::win32

@@ -32,7 +32,10 @@ class ComboBoxView : public ControlView {
   ComboBox& box_;
   HWND field_ = nullptr;
   HWND list_ = nullptr;
+  // Entries in the window.
   int shown_ = 0;
+  // Messages that the box is at work on.
+  int busy_ = 0;
 };
 
 }  // namespace orvik::forms::win32

@@ -9,6 +9,8 @@ namespace orvik::forms::win32 {
 namespace {
 
 constexpr UINT_PTR kSubclass = 1;
+// The property of a window that leads to its view.
+constexpr wchar_t kView[] = L"Orvik.View";
 
 }  // namespace
 
@@ -18,10 +20,7 @@ ControlView::~ControlView() {
 
 ControlView* ControlView::Of(HWND window) {
   for (; window != nullptr; window = GetAncestor(window, GA_PARENT)) {
-    DWORD_PTR view = 0;
-    if (GetWindowSubclass(window, &Procedure, kSubclass, &view)) {
-      return reinterpret_cast<ControlView*>(view);
-    }
+    if (const HANDLE view = GetPropW(window, kView)) return static_cast<ControlView*>(view);
   }
   return nullptr;
 }
@@ -32,11 +31,12 @@ void ControlView::Create(const wchar_t* window_class, const Text& text, DWORD st
   style |= WS_CHILD | WS_CLIPSIBLINGS;
   if (control().visible()) style |= WS_VISIBLE;
   if (!control().enabled()) style |= WS_DISABLED;
-  window_ = CreateWindowExW(extended_style, window_class, Wide(text), style, area.left, area.top,
-                            area.right - area.left, area.bottom - area.top,
-                            form().ParentOf(control()), form().IdOf(control()),
-                            GetModuleHandleW(nullptr), nullptr);
+  window_ =
+      CreateWindowExW(extended_style, window_class, Wide(text), style, area.left, area.top,
+                      area.right - area.left, area.bottom - area.top, form().ParentOf(control()),
+                      form().IdOf(control()), GetModuleHandleW(nullptr), nullptr);
   SetWindowSubclass(window_, &Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+  SetPropW(window_, kView, this);
   tag_.Put(window_, control().name());
   Send(WM_SETFONT, reinterpret_cast<WPARAM>(form().metrics().font()), FALSE);
   form().AddHint(*this);
@@ -105,6 +105,7 @@ LRESULT CALLBACK ControlView::Procedure(HWND window, UINT message, WPARAM wparam
                                         UINT_PTR /*id*/, DWORD_PTR view) noexcept {
   auto& self = *reinterpret_cast<ControlView*>(view);
   if (message != WM_NCDESTROY) return self.OnMessage(message, wparam, lparam);
+  RemovePropW(window, kView);
   self.tag_.Remove();
   self.window_ = nullptr;
   RemoveWindowSubclass(window, &Procedure, kSubclass);

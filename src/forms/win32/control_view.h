@@ -44,8 +44,7 @@ class ControlView : public Adapter {
   virtual bool LetsArrowsGo() const { return false; }
 
  protected:
-  void Create(const wchar_t* window_class, const Text& text, DWORD style,
-              DWORD extended_style = 0);
+  void Create(const wchar_t* window_class, const Text& text, DWORD style, DWORD extended_style = 0);
   // Where the window is to be within its parent, in pixels.
   virtual RECT Area() const;
   virtual LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam);

@@ -9,14 +9,12 @@
 namespace orvik::forms::win32 {
 
 void Desk::Deliver(const std::function<void()>& event) {
-  ++depth_;
   try {
     Attempt(event);
   } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch)
     // Memory that can't be had. A window procedure must not throw, and the program goes on after
     // any statement that fails.
   }
-  --depth_;
   refresher_.Flush();
 }
 

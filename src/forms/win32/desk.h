@@ -32,15 +32,14 @@ class Desk {
 
   // Keeps the views of a form that is gone as long as their own routines may still be running.
   void Retire(Form& form) { retired_.push_back(&form); }
+  void Forget(Form& form) { std::erase(retired_, &form); }
   // Frees those views. Only from where no event is being handled.
   void FreeRetired();
-  bool handling_event() const { return depth_ > 0; }
 
  private:
   Refresher refresher_;
   std::vector<FormWindow*> windows_;
   std::vector<Form*> retired_;
-  int depth_ = 0;
 };
 
 // While this lives the user can't get at any form, except by the one window that owns the dialog:

@@ -5,11 +5,24 @@
 
 namespace orvik::forms::win32 {
 
+bool FormWindow::InSight(const ControlView& view) const {
+  // A form may keep controls below its lower edge until it is made higher.
+  RECT area;
+  RECT client;
+  RECT common;
+  GetWindowRect(view.window(), &area);
+  GetClientRect(window_, &client);
+  MapWindowPoints(window_, nullptr, reinterpret_cast<POINT*>(&client), 2);
+  return IntersectRect(&common, &area, &client) != 0;
+}
+
 bool FormWindow::FocusIfPossible(const Control& control) const {
   if (control.view() == nullptr || !control.Reachable()) return false;
   const auto& adapter = static_cast<const Adapter&>(*control.view());
   if (!adapter.TakesFocus()) return false;
-  SetFocus(static_cast<const ControlView&>(adapter).window());
+  const auto& view = static_cast<const ControlView&>(adapter);
+  if (!InSight(view)) return false;
+  SetFocus(view.window());
   return true;
 }
 

@@ -9,6 +9,13 @@ namespace orvik::forms::win32 {
 
 namespace {
 
+bool Overlap(const Control& one, const Control& other) {
+  const Bounds& a = one.bounds();
+  const Bounds& b = other.bounds();
+  return one.container() == other.container() && a.left < b.left + b.width &&
+         b.left < a.left + a.width && a.top < b.top + b.height && b.top < a.top + a.height;
+}
+
 // The notional width of a form whose client area is so wide in pixels.
 int NotionalWidth(int client_width, const Metrics& metrics) {
   return metrics.Twips(client_width) + kFrameWidth;
@@ -45,6 +52,24 @@ void FormWindow::PlaceAll() {
   for (Control* control : form_.controls()) {
     if (control->view() == nullptr) continue;
     if (auto* view = dynamic_cast<ControlView*>(control->view())) view->Place();
+  }
+}
+
+void FormWindow::Stack() {
+  // The others stay as they are, in the order in which aids to access read them.
+  for (const Control* later : form_.controls()) {
+    const auto* view = dynamic_cast<const ControlView*>(later->view());
+    if (view == nullptr) continue;
+    for (const Control* earlier : form_.controls()) {
+      if (earlier == later) break;
+      const auto* under = dynamic_cast<const ControlView*>(earlier->view());
+      if (under == nullptr || !Overlap(*earlier, *later)) continue;
+      const HWND above = GetWindow(under->window(), GW_HWNDPREV);
+      if (above == view->window()) continue;
+      SetWindowPos(view->window(), above != nullptr ? above : HWND_TOP, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+      break;
+    }
   }
 }
 

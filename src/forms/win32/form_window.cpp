@@ -58,6 +58,7 @@ FormWindow::FormWindow(Form& form, Desk& desk)
 
 FormWindow::~FormWindow() {
   Close();
+  desk_.Forget(form_);
   desk_.refresher().Forget(*this);
 }
 
@@ -66,21 +67,23 @@ void FormWindow::MakeWindow() {
   RegisterClassOf(class_name, &Procedure);
   const SIZE size = Size();
   resizing_ = true;
-  window_ = CreateWindowExW(WS_EX_CONTROLPARENT, Wide(class_name), Wide(form_.caption()),
-                            style_, CW_USEDEFAULT, CW_USEDEFAULT, size.cx, size.cy, nullptr,
-                            nullptr, GetModuleHandleW(nullptr), this);
+  window_ = CreateWindowExW(WS_EX_CONTROLPARENT, Wide(class_name), Wide(form_.caption()), style_,
+                            CW_USEDEFAULT, CW_USEDEFAULT, size.cx, size.cy, nullptr, nullptr,
+                            GetModuleHandleW(nullptr), this);
   resizing_ = false;
   tag_.Put(window_, form_.name());
   // The system may have put it on another monitor.
   if (DpiOf(window_) != metrics_->dpi()) metrics_ = std::make_unique<Metrics>(DpiOf(window_));
+  // Without an owner: Wine wouldn't put a form on top that owns a window on top.
   hints_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0,
-                           0, 0, window_, nullptr, GetModuleHandleW(nullptr), nullptr);
+                           0, 0, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
   SendMessageW(hints_, TTM_SETMAXTIPWIDTH, 0, metrics_->Scaled(400));
 }
 
 void FormWindow::Close() {
   if (window_ == nullptr) return;
   desk_.Leave(*this);
+  DestroyWindow(hints_);
   DestroyWindow(window_);
 }
 
@@ -89,8 +92,8 @@ void FormWindow::Show() {
   desk_.refresher().Flush();
   ShowWindow(window_, SW_SHOWNORMAL);
   SetForegroundWindow(window_);
-  last_focus_ = nullptr;
-  MoveFocus(1);
+  // The system has given the keyboard to the window, which hands it on; unless the user works in
+  // another program, and then it does so later.
   UpdateWindow(window_);
 }
 
@@ -211,8 +214,8 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
 LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wparam,
                                        LPARAM lparam) noexcept {
   if (message == WM_NCCREATE) {
-    auto* self = static_cast<FormWindow*>(
-        reinterpret_cast<const CREATESTRUCTW*>(lparam)->lpCreateParams);
+    auto* self =
+        static_cast<FormWindow*>(reinterpret_cast<const CREATESTRUCTW*>(lparam)->lpCreateParams);
     self->window_ = window;
     SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
   }

@@ -44,6 +44,9 @@ class FormWindow : public View, public Shown {
   // The button that Enter presses when the focused control has no use of it.
   Control* DefaultButton() const;
 
+  // To be called when all views are made: of two controls in the same place the later one is seen.
+  void Stack();
+
   // For the views of controls.
   HWND ParentOf(const Control& control) const;
   HMENU IdOf(const Control& control) const;
@@ -56,7 +59,8 @@ class FormWindow : public View, public Shown {
   bool FromControl(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result) const;
 
  private:
-  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) noexcept;
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam,
+                                    LPARAM lparam) noexcept;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
   void MakeWindow();
   void PlaceAll();
@@ -70,6 +74,7 @@ class FormWindow : public View, public Shown {
   void Centre();
   SIZE ClientSize() const;
   SIZE Size() const;
+  bool InSight(const ControlView& view) const;
   bool FocusIfPossible(const Control& control) const;
 
   Form& form_;

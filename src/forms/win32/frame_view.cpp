@@ -26,7 +26,7 @@ void RegisterFrameClass() {
 }
 
 void DrawBox(HWND window, HDC context, RECT box) {
-  if (const HTHEME theme = OpenThemeData(window, VSCLASS_BUTTON)) {
+  if (const HTHEME theme = OpenThemeData(window, L"BUTTON")) {
     DrawThemeBackground(theme, context, BP_GROUPBOX, GBS_NORMAL, &box, nullptr);
     CloseThemeData(theme);
   } else {

@@ -1,7 +1,5 @@
 #include "forms/win32/glyphs.h"
 
-#include <shellapi.h>
-
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -20,12 +18,11 @@ struct Stroke {
 
 constexpr Stroke kMore[] = {{4, 6, 8, 10}, {8, 10, 12, 6}};
 constexpr Stroke kExit[] = {{4, 4, 12, 12}, {12, 4, 4, 12}};
-constexpr Stroke kFolder[] = {{2, 13, 2, 3},  {2, 3, 6, 3},      {6, 3, 8, 5},
-                              {8, 5, 13, 5},  {13, 5, 13, 7},    {2, 13, 4.5, 7},
+constexpr Stroke kFolder[] = {{2, 13, 2, 3},   {2, 3, 6, 3},      {6, 3, 8, 5},
+                              {8, 5, 13, 5},   {13, 5, 13, 7},    {2, 13, 4.5, 7},
                               {4.5, 7, 15, 7}, {15, 7, 12.5, 13}, {12.5, 13, 2, 13}};
-constexpr Stroke kFile[] = {{4, 2, 9, 2},   {9, 2, 12, 5}, {12, 5, 12, 14},
-                            {12, 14, 4, 14}, {4, 14, 4, 2}, {9, 2, 9, 5},
-                            {9, 5, 12, 5}};
+constexpr Stroke kFile[] = {{4, 2, 9, 2},  {9, 2, 12, 5}, {12, 5, 12, 14}, {12, 14, 4, 14},
+                            {4, 14, 4, 2}, {9, 2, 9, 5},  {9, 5, 12, 5}};
 
 std::span<const Stroke> StrokesOf(Picture::Image image) {
   switch (image) {
@@ -64,8 +61,8 @@ std::vector<std::uint32_t> Draw(std::span<const Stroke> strokes, int size, COLOR
   const double unit = size / 16.0;
   for (int y = 0; y < size; ++y) {
     for (int x = 0; x < size; ++x) {
-      const auto alpha = static_cast<std::uint32_t>(
-          Coverage(strokes, (x + 0.5) / unit, (y + 0.5) / unit, unit));
+      const auto alpha =
+          static_cast<std::uint32_t>(Coverage(strokes, (x + 0.5) / unit, (y + 0.5) / unit, unit));
       pixels.push_back(alpha << 24 | GetRValue(color) * alpha / 255 << 16 |
                        GetGValue(color) * alpha / 255 << 8 | GetBValue(color) * alpha / 255);
     }
@@ -102,22 +99,22 @@ HICON DrawnIcon(Picture::Image image, int size, COLORREF color) {
   return made;
 }
 
-// The shell's own picture in exactly this size; nullptr when it has none.
-HICON StockIcon(SHSTOCKICONID id, int size) {
-  SHSTOCKICONINFO info{};
-  info.cbSize = sizeof info;
-  if (FAILED(SHGetStockIconInfo(id, SHGSI_ICONLOCATION, &info))) return nullptr;
-  HICON icon = nullptr;
-  const UINT count = PrivateExtractIconsW(info.szPath, info.iIcon, size, size, &icon, nullptr, 1, 0);
-  return count == 1 ? icon : nullptr;
+// Pictures in the shell's library, under the numbers that they have had in every version of it.
+constexpr WORD kShellDocument = 1;
+constexpr WORD kShellOpenFolder = 5;
+
+HICON ShellIcon(WORD number, int size) {
+  const HMODULE shell = GetModuleHandleW(L"shell32.dll");
+  return static_cast<HICON>(
+      LoadImageW(shell, MAKEINTRESOURCEW(number), IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
 }
 
 }  // namespace
 
 HICON MakeGlyph(Picture::Image image, int size, COLORREF color) {
   HICON icon = nullptr;
-  if (image == Picture::Image::kFolder) icon = StockIcon(SIID_FOLDEROPEN, size);
-  if (image == Picture::Image::kFile) icon = StockIcon(SIID_DOCASSOC, size);
+  if (image == Picture::Image::kFolder) icon = ShellIcon(kShellOpenFolder, size);
+  if (image == Picture::Image::kFile) icon = ShellIcon(kShellDocument, size);
   return icon != nullptr ? icon : DrawnIcon(image, size, color);
 }
 

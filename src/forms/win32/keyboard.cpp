@@ -21,9 +21,9 @@ Receiver ReceiverOf(FormWindow& form, HWND window) {
   return {form, &view->control(), view};
 }
 
-bool KeyDown(const Desk& desk, const Receiver& to, Key key) {
+bool KeyDown(Desk& desk, const Receiver& to, Key key) {
   bool kept = false;
-  const_cast<Desk&>(desk).Deliver([&] {
+  desk.Deliver([&] {
     // A handler that fails hasn't taken the key away.
     kept = true;
     kept = to.control != nullptr ? to.control->UserKeyDown(key) : to.form.form().UserKeyDown(key);
@@ -102,7 +102,7 @@ bool IsControlKey(WPARAM character) {
 
 }  // namespace
 
-bool HandleKey(const Desk& desk, const MSG& message) {
+bool HandleKey(Desk& desk, const MSG& message) {
   if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST) return false;
   FormWindow* form = desk.Holding(message.hwnd);
   if (form == nullptr) return false;

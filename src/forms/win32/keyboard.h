@@ -8,6 +8,6 @@ namespace orvik::forms::win32 {
 // Handles a key message before its window gets it: the handlers of the focused control and of its
 // form see it first, then the keys that move the focus and press the default button do their work.
 // True when the window must not get the message any more.
-bool HandleKey(const Desk& desk, const MSG& message);
+bool HandleKey(Desk& desk, const MSG& message);
 
 }  // namespace orvik::forms::win32

@@ -47,4 +47,31 @@ void LabelView::OnCommand(WORD code) {
   }
 }
 
+bool LabelView::TakesFocus() const { return static_cast<bool>(label_.on_click); }
+
+bool LabelView::PressEnter() {
+  return Deliver([&] { control().UserClick(); });
+}
+
+void LabelView::OnFocus(bool /*here*/) { InvalidateRect(window(), nullptr, TRUE); }
+
+void LabelView::DrawFocus() const {
+  if (GetFocus() != window()) return;
+  if ((SendMessageW(window(), WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS) != 0) return;
+  RECT area;
+  GetClientRect(window(), &area);
+  const HDC context = GetDC(window());
+  DrawFocusRect(context, &area);
+  ReleaseDC(window(), context);
+}
+
+LRESULT LabelView::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  if (message == WM_KEYDOWN && wparam == VK_SPACE && PressEnter()) return 0;
+  const LRESULT result = ControlView::OnMessage(message, wparam, lparam);
+  if (window() == nullptr) return result;
+  if (message == WM_PAINT) DrawFocus();
+  if (message == WM_UPDATEUISTATE) InvalidateRect(window(), nullptr, TRUE);
+  return result;
+}
+
 }  // namespace orvik::forms::win32

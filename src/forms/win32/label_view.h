@@ -1,4 +1,4 @@
-// A label as a static text.
+// A label as a static text. One that does something when clicked does so by keyboard too.
 #pragma once
 
 #include "forms/simple_controls.h"
@@ -11,11 +11,18 @@ class LabelView : public ControlView {
   LabelView(Label& label, FormWindow& form);
   void Refresh(Changes changes) override;
   void OnCommand(WORD code) override;
+  void OnFocus(bool here) override;
+  bool TakesFocus() const override;
+  bool PressEnter() override;
+  bool LetsArrowsGo() const override { return true; }
 
  protected:
   RECT Area() const override;
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
 
  private:
+  void DrawFocus() const;
+
   const Label& label_;
 };
 

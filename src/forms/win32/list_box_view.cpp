@@ -51,7 +51,8 @@ void ListBoxView::ShowItems() {
     Send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(item)));
     widest_ = std::max(widest_, form().metrics().TextWidth(item));
   }
-  Send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest_ + form().metrics().Scaled(8)));
+  Send(LB_SETHORIZONTALEXTENT,
+       static_cast<WPARAM>(widest_) + static_cast<WPARAM>(form().metrics().Scaled(8)));
   Send(WM_SETREDRAW, TRUE);
   InvalidateRect(window(), nullptr, TRUE);
 }

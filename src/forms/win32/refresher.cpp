@@ -24,18 +24,20 @@ void Refresher::Mark(Shown& shown, Property property) {
 void Refresher::Forget(Shown& shown) {
   if (shown.pending_ == 0) return;
   shown.pending_ = 0;
-  std::erase(waiting_, &shown);
+  std::replace(waiting_.begin(), waiting_.end(), &shown, static_cast<Shown*>(nullptr));
 }
 
 void Refresher::Flush() {
   // Showing one thing can send messages that end in another flush.
   if (flushing_) return;
   flushing_ = true;
-  while (!waiting_.empty()) {
-    Shown* shown = waiting_.back();
-    waiting_.pop_back();
-    shown->Refresh(std::exchange(shown->pending_, 0));
+  // In the order of the changes: a form may have grown to make room for what comes next. More may
+  // be marked meanwhile, and some may go.
+  for (std::size_t at = 0; at < waiting_.size(); ++at) {
+    Shown* shown = waiting_[at];
+    if (shown != nullptr) shown->Refresh(std::exchange(shown->pending_, 0));
   }
+  waiting_.clear();
   urgent_ = false;
   flushing_ = false;
 }

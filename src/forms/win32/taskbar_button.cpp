@@ -17,8 +17,8 @@ void TaskbarButton::Attach(HWND window) {
   window_ = window;
   if (list_ == nullptr) {
     void* list = nullptr;
-    if (FAILED(CoCreateInstance(CLSID_TaskbarList, nullptr, CLSCTX_INPROC_SERVER,
-                                IID_ITaskbarList3, &list))) {
+    if (FAILED(CoCreateInstance(CLSID_TaskbarList, nullptr, CLSCTX_INPROC_SERVER, IID_ITaskbarList3,
+                                &list))) {
       return;
     }
     list_ = static_cast<ITaskbarList3*>(list);

@@ -42,8 +42,9 @@ std::unique_ptr<Adapter> MakeView(Control& control, FormWindow& form) {
     case Kind::kComboBox:
       return Make<ComboBoxView, ComboBox>(control, form);
     case Kind::kListBox:
-      return static_cast<ListBox&>(control).has_boxes() ? Make<CheckListView, ListBox>(control, form)
-                                                        : Make<ListBoxView, ListBox>(control, form);
+      return static_cast<ListBox&>(control).has_boxes()
+                 ? Make<CheckListView, ListBox>(control, form)
+                 : Make<ListBoxView, ListBox>(control, form);
     case Kind::kProgressBar:
       return Make<ProgressBarView, ProgressBar>(control, form);
     case Kind::kTimer:
@@ -58,10 +59,9 @@ std::unique_ptr<Adapter> MakeView(Control& control, FormWindow& form) {
     case Kind::kTreeView:
     case Kind::kStatusBar:
     case Kind::kUpDown:
-      return nullptr;
     // Has no window of its own.
     case Kind::kCommonDialog:
-      return nullptr;
+      break;
   }
   return nullptr;
 }

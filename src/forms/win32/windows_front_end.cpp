@@ -12,9 +12,9 @@ namespace orvik::forms::win32 {
 WindowsFrontEnd::WindowsFrontEnd() : loop_(desk_) {
   // For the folder dialog and the task bar.
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
-  const INITCOMMONCONTROLSEX controls{
-      sizeof controls, ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES | ICC_LISTVIEW_CLASSES |
-                           ICC_PROGRESS_CLASS | ICC_BAR_CLASSES};
+  const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES |
+                                                           ICC_LISTVIEW_CLASSES |
+                                                           ICC_PROGRESS_CLASS | ICC_BAR_CLASSES};
   InitCommonControlsEx(&controls);
 }
 
@@ -27,6 +27,7 @@ void WindowsFrontEnd::Load(Form& form) {
   form.SetView(std::make_unique<FormWindow>(form, desk_));
   // A frame is declared ahead of what it holds, so its window is there when theirs are made.
   for (Control* control : form.controls()) control->SetView(MakeView(*control, WindowOf(form)));
+  WindowOf(form).Stack();
 }
 
 void WindowsFrontEnd::Show(Form& form) { WindowOf(form).Show(); }
@@ -90,8 +91,6 @@ std::optional<Text> WindowsFrontEnd::AskFileName(FileDialog dialog, const Text& 
   return ShowFileDialog(window, dialog, filter);
 }
 
-void WindowsFrontEnd::PutOnClipboard(const Text& text) {
-  CopyToClipboard(Owner(nullptr), text);
-}
+void WindowsFrontEnd::PutOnClipboard(const Text& text) { CopyToClipboard(Owner(nullptr), text); }
 
 }  // namespace orvik::forms::win32

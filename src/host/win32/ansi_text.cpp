@@ -28,6 +28,8 @@ bool IsAscii(std::wstring_view wide) {
   return std::ranges::all_of(wide, [](wchar_t c) { return c < 0x80; });
 }
 
+bool IsDriveLetter(char16_t c) { return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z'); }
+
 }  // namespace
 
 std::string ToAnsi(TextView text) { return WideToAnsi(ToWide(text)); }
@@ -49,9 +51,14 @@ std::wstring ToWide(TextView text) { return {text.begin(), text.end()}; }
 
 Text FromWide(std::wstring_view wide) { return {wide.begin(), wide.end()}; }
 
+bool IsBeyondUse(const Text& path) {
+  if (path.size() > kLongestPath || path.find(u'\0') != Text::npos) return true;
+  const std::size_t colon = path.rfind(u':');
+  return colon != Text::npos && (colon != 1 || !IsDriveLetter(path[0]));
+}
+
 std::optional<std::string> AnsiPath(const Text& path) {
-  if (path.empty() || path.size() > kLongestPath) return std::nullopt;
-  if (path.find(u'\0') != Text::npos) return std::nullopt;
+  if (path.empty() || IsBeyondUse(path)) return std::nullopt;
   std::string bytes = ToAnsi(path);
   if (bytes.find_first_of("?*") != std::string::npos) return std::nullopt;
   return bytes;

@@ -22,8 +22,13 @@ Text ThroughAnsi(std::wstring_view wide);
 std::wstring ToWide(TextView text);
 Text FromWide(std::wstring_view wide);
 
-// The path as the ANSI services take it, or nothing for one that no operation takes: empty, longer
-// than kLongestPath, with a zero inside, or with "?" or "*" in its ANSI form.
+// True for what no operation takes, not even a search: a path longer than kLongestPath, with a zero
+// inside, or with a colon that isn't a drive's. The system would cut such a path, or open a hidden
+// stream of a file.
+bool IsBeyondUse(const Text& path);
+
+// The path as the ANSI services take it, or nothing for one that no operation takes: one that is
+// beyond use, empty, or with "?" or "*" in its ANSI form.
 std::optional<std::string> AnsiPath(const Text& path);
 
 }  // namespace orvik::host::win32

@@ -32,12 +32,15 @@ std::optional<DiskSpace> Win32FileSystem::Space(const Text& path) {
 
 std::optional<Text> Win32FileSystem::VolumeLabel(const Text& drive) {
   const auto root = RootPath(drive);
+  if (!root) return std::nullopt;
   char label[MAX_PATH + 1];
-  if (!root || !GetVolumeInformationA(root->c_str(), label, sizeof label, nullptr, nullptr, nullptr,
-                                      nullptr, 0)) {
-    return std::nullopt;
+  if (GetVolumeInformationA(root->c_str(), label, sizeof label, nullptr, nullptr, nullptr, nullptr,
+                            0)) {
+    return FromAnsi(label);
   }
-  return FromAnsi(label);
+  // A letter that Wine was given while it ran is a drive of which nothing more is known.
+  const bool is_drive = PathIsRootA(root->c_str()) && PathFileExistsA(root->c_str());
+  return is_drive ? std::optional<Text>(Text()) : std::nullopt;
 }
 
 }  // namespace orvik::host::win32

@@ -77,8 +77,11 @@ bool Win32FileSystem::MoveFile(const Text& source, const Text& target, bool repl
   const auto from = AnsiPath(source);
   const auto to = AnsiPath(target);
   if (!from || !to || (EndsInBackslash(*from) && !IsFolder(*from))) return false;
-  // A file can change the letter case of its own name, read-only or not.
-  if (replace && !EqualNoCase(source, target) && !CanBeReplaced(*to)) return false;
+  // A file can change the letter case of its own name, read-only or not. A folder replaces nothing.
+  if (replace && !EqualNoCase(source, target) &&
+      (!CanBeReplaced(*to) || (IsFolder(*from) && FactsOf(*to)))) {
+    return false;
+  }
   return MoveFileExA(from->c_str(), to->c_str(), replace ? MOVEFILE_REPLACE_EXISTING : 0) != FALSE;
 }
 

@@ -5,6 +5,7 @@
 #include "host/win32/ansi_text.h"
 #include "host/win32/com_pointer.h"
 #include "host/win32/file_facts.h"
+#include "host/win32/handles.h"
 #include "host/win32/win32_shell.h"
 
 namespace orvik::host::win32 {
@@ -53,7 +54,7 @@ Shortcut Contents(const ComPointer<IShellLinkW>& link) {
   // Every call that succeeds ends its text with a zero, so what an earlier one left doesn't matter;
   // one that fails must leave nothing.
   const auto read = [&](HRESULT result) {
-    const Text text = SUCCEEDED(result) ? FromWide(buffer.c_str()) : Text();
+    Text text = SUCCEEDED(result) ? FromWide(buffer.c_str()) : Text();
     buffer[0] = L'\0';
     return text;
   };
@@ -65,8 +66,22 @@ Shortcut Contents(const ComPointer<IShellLinkW>& link) {
   if (SUCCEEDED(link->GetIconLocation(buffer.data(), kRoom, &index))) {
     shortcut.icon_location = IconText(buffer.c_str(), index);
   }
-  link->GetShowCmd(&shortcut.window_style);
   return shortcut;
+}
+
+// The window state out of the header of a ".lnk" file, where it has a fixed place: Wine's shell
+// stores it and doesn't hand it out again.
+int StoredWindowStyle(const std::wstring& path) {
+  constexpr LONG kPlaceInHeader = 0x3C;
+  constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const UniqueHandle file =
+      Owned(CreateFileW(path.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
+  std::int32_t style = SW_SHOWNORMAL;
+  DWORD count = 0;
+  if (file && SetFilePointer(file.get(), kPlaceInHeader, nullptr, FILE_BEGIN) == kPlaceInHeader) {
+    ReadFile(file.get(), &style, sizeof style, &count, nullptr);
+  }
+  return count == sizeof style ? style : SW_SHOWNORMAL;
 }
 
 bool Fill(const ComPointer<IShellLinkW>& link, const Shortcut& shortcut) {
@@ -93,10 +108,11 @@ std::optional<Shortcut> Win32Shell::ReadShortcut(const Text& path) {
   if (!ansi || IsFolder(*ansi)) return std::nullopt;
   NeedCom();
   Link link;
-  if (!link.Create() || FAILED(link.file->Load(FullPath(path).c_str(), STGM_READ))) {
-    return std::nullopt;
-  }
-  return Contents(link.link);
+  const std::wstring full = FullPath(path);
+  if (!link.Create() || FAILED(link.file->Load(full.c_str(), STGM_READ))) return std::nullopt;
+  Shortcut shortcut = Contents(link.link);
+  shortcut.window_style = StoredWindowStyle(full);
+  return shortcut;
 }
 
 bool Win32Shell::WriteShortcut(const Text& path, const Shortcut& shortcut) {

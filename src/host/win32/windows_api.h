@@ -4,8 +4,9 @@
 #include <windows.h>
 // Behind it, as they need its types.
 #include <shellapi.h>
-#include <shlobj.h>
+#include <shlguid.h>
 #include <shlwapi.h>
+#include <shobjidl.h>
 #include <tlhelp32.h>
 
 #undef CopyFile

@@ -1,0 +1,187 @@
+"""What is measured: jobs, and the programs that compete in each."""
+
+import json
+import subprocess
+from collections.abc import Callable
+from dataclasses import dataclass, field
+from pathlib import Path
+
+import sample_tree
+
+ORVIK = "Orvik"
+FLOOR = "system calls"
+
+
+class WrongResult(Exception):
+    """A program ended, but not with what it was asked for."""
+
+
+@dataclass
+class Contestant:
+    """One program in one job. `command` gives the arguments of run number n; `check` looks at a
+    run's output and raises WrongResult."""
+
+    name: str
+    command: Callable[[int], list[str]]
+    check: Callable[[bytes, int], None] | None = None
+    accepted: tuple[int, ...] = (0,)
+
+
+@dataclass
+class Job:
+    name: str
+    contestants: list[Contestant]
+    writes: bool = False  # flush what earlier runs wrote before each run
+    notes: list[str] = field(default_factory=list)
+
+
+def counts(expected: int) -> Callable[[bytes, int], None]:
+    """The output is this number of files, perhaps with more behind it."""
+
+    def check(output: bytes, _run: int) -> None:
+        if output.split()[:1] != [str(expected).encode()]:
+            raise WrongResult(f"{expected} files expected, got {output[:80]!r}")
+
+    return check
+
+
+def holds(target: Callable[[int], Path], expected: int) -> Callable[[bytes, int], None]:
+    """The folder of a run holds this number of files."""
+
+    def check(_output: bytes, run: int) -> None:
+        listed = subprocess.run(["find", target(run), "-type", "f", "-printf", "."],
+                                capture_output=True, check=True).stdout
+        if len(listed) != expected:
+            raise WrongResult(f"{expected} files expected in {target(run)}, found {len(listed)}")
+
+    return check
+
+
+def title(copied: int, errors: int = 0) -> Callable[[bytes, int], None]:
+    """The copy form ended with these counts in its title."""
+    wanted = f"Завершено. Скопировано {copied} файлов, ошибок {errors}"
+
+    def check(output: bytes, _run: int) -> None:
+        captions = [event["caption"] for event in map(json.loads, output.splitlines())
+                    if event["event"] == "dump"]
+        if captions != [wanted]:
+            raise WrongResult(f"{wanted!r} expected, got {captions}")
+
+    return check
+
+
+class Jobs:
+    """Builds the jobs over sample files in a scratch folder. Nothing made there is removed before
+    the last run: making many files right after removing as many is far slower on some systems."""
+
+    def __init__(self, scratch: Path, programs: Path, scale: float):
+        self.scratch = scratch
+        self.bench = programs / "bench"
+        self.headless = programs / "src" / "orvik-headless"
+        self.scale = scale
+        self.script = scratch / "dump.txt"
+        self.script.write_text("dump frmMain\n")
+
+    def all(self) -> dict[str, Callable[[], list[Job]]]:
+        """Groups of jobs by name; a group makes its files when it is asked for its jobs."""
+        return {
+            "checksum": self.full_checksum,
+            "fast": self.fast_checksum,
+            "walk": self.walk,
+            "copy": self.first_copy,
+            "update": self.update,
+        }
+
+    def small(self) -> tuple[Path, int]:
+        tree = self.scratch / "small"
+        if not tree.exists():
+            sample_tree.make_small(tree, self.scale)
+        return tree, int(subprocess.run([self.bench / "orvik-bench-floor", "walk", tree],
+                                        capture_output=True, check=True).stdout)
+
+    def floor(self, job: str, *paths: object) -> list[str]:
+        return [str(self.bench / "orvik-bench-floor"), job, *map(str, paths)]
+
+    def engine(self, job: str, *paths: object) -> list[str]:
+        return [str(self.bench / "orvik-bench-engine"), job, *map(str, paths)]
+
+    def full_checksum(self) -> list[Job]:
+        files = sample_tree.make_texts(self.scratch / "text", self.scale)
+        size = files["binary"].stat().st_size // sample_tree.MIB
+        jobs = []
+        for kind, path in files.items():
+            path = str(path)
+            jobs.append(Job(f"full checksum, {size} MiB, {kind}", [
+                Contestant(ORVIK, lambda n, p=path: self.engine("full", p), counts(1)),
+                Contestant(FLOOR, lambda n, p=path: self.floor("read", p), counts(1)),
+                Contestant("cksum -a crc", lambda n, p=path: ["cksum", "-a", "crc", p]),
+                Contestant("rhash --crc32", lambda n, p=path: ["rhash", "--crc32", p]),
+            ]))
+        return jobs
+
+    def fast_checksum(self) -> list[Job]:
+        tree, files = self.small()
+        return [Job(f"fast checksum, {files} small files", [
+            Contestant(ORVIK, lambda n: self.engine("fast", tree), counts(files)),
+            Contestant(FLOOR, lambda n: self.floor("sample", tree), counts(files)),
+            Contestant("find, xxhsum",
+                       lambda n: ["find", str(tree), "-type", "f", "-exec", "xxhsum", "{}", "+"]),
+        ])]
+
+    def walk(self) -> list[Job]:
+        tree, files = self.small()
+        return [Job(f"walk, {files} files", [
+            Contestant(ORVIK, lambda n: self.engine("walk", tree), counts(files)),
+            Contestant(FLOOR, lambda n: self.floor("walk", tree), counts(files)),
+            Contestant("find", lambda n: ["find", str(tree), "-type", "f"]),
+        ])]
+
+    def copy_job(self, source: Path, target: Path) -> list[str]:
+        """The product itself: a copy script without a window."""
+        script = target.with_name(target.name + ".script")
+        script.write_bytes(b"foldercopy\r\nfrom:s:\\\r\nto:t:\\\r\npat:*\r\n")
+        target.mkdir(exist_ok=True)
+        return [str(self.headless), "--script", str(self.script),
+                "--registry", str(script.with_suffix(".reg")),
+                "--drive", f"S={source}", "--drive", f"T={target}", f"/SYF {script}"]
+
+    def first_copy(self) -> list[Job]:
+        tree, files = self.small()
+        place = self.scratch / "copies"
+        place.mkdir()
+
+        def fresh(name: str) -> Callable[[int], Path]:
+            return lambda n: place / f"{name} {n}"
+
+        peers = {"cp -a": ["cp", "-a"], "rsync -a": ["rsync", "-a"]}
+        return [Job(f"first copy, {files} small files", [
+            Contestant(ORVIK, lambda n: self.copy_job(tree, fresh("orvik")(n)), title(files)),
+            Contestant(FLOOR, lambda n: self.floor("copy", tree, fresh("floor")(n)), counts(files)),
+            *(Contestant(name,
+                         lambda n, name=name, start=start: [*start, f"{tree}/", str(fresh(name)(n))],
+                         holds(fresh(name), files))
+              for name, start in peers.items()),
+        ], writes=True)]
+
+    def update(self) -> list[Job]:
+        tree, files = self.small()
+        mixed = self.scratch / "mixed"
+        mixed_files = sample_tree.make_mixed(mixed, self.scale)
+        return [self.update_of("small files", tree, files),
+                self.update_of("mixed files", mixed, mixed_files)]
+
+    def update_of(self, what: str, tree: Path, files: int) -> Job:
+        target = tree.with_name(tree.name + " copy")
+        subprocess.run(["cp", "-a", tree, target], check=True)
+        peers = {
+            "cp -au": ["cp", "-au", f"{tree}/.", str(target)],
+            "rsync -a": ["rsync", "-a", f"{tree}/", str(target)],
+            "rsync -ac": ["rsync", "-ac", f"{tree}/", str(target)],
+            "diff -rq": ["diff", "-rq", str(tree), str(target)],
+        }
+        return Job(f"up-to-date tree, {files} {what}", [
+            Contestant(ORVIK, lambda n: self.copy_job(tree, target), title(0)),
+            Contestant(FLOOR, lambda n: self.floor("compare", tree, target), counts(files)),
+            *(Contestant(name, lambda n, command=command: command)
+              for name, command in peers.items()),
+        ], notes=["`cp -au` and `rsync -a` go by dates and read no file."])

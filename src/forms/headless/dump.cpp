@@ -1,0 +1,179 @@
+#include "forms/headless/dump.h"
+
+#include <span>
+
+#include "forms/list_controls.h"
+#include "forms/simple_controls.h"
+
+namespace orvik::forms::headless {
+
+namespace {
+
+// One member of a dumped control.
+struct Member {
+  std::string_view name;
+  void (*write)(JsonWriter&, const Control&);
+};
+
+// The control as the class that its kind stands for.
+template <typename ControlClass>
+const ControlClass& As(const Control& control) {
+  return static_cast<const ControlClass&>(control);
+}
+
+template <typename List>
+void WriteItems(JsonWriter& json, const List& list) {
+  json.BeginArray();
+  for (int i = 0; i < list.count(); ++i) json.String(TextView(list.Item(i)));
+  json.EndArray();
+}
+
+// The positions that have something, such as a mark.
+void WritePositions(JsonWriter& json, const ListBox& list, bool (ListBox::*has)(int) const) {
+  json.BeginArray();
+  for (int i = 0; i < list.count(); ++i) {
+    if ((list.*has)(i)) json.Number(i);
+  }
+  json.EndArray();
+}
+
+constexpr Member kVisible = {"visible",
+                             [](JsonWriter& json, const Control& c) { json.Bool(c.visible()); }};
+constexpr Member kEnabled = {"enabled",
+                             [](JsonWriter& json, const Control& c) { json.Bool(c.enabled()); }};
+
+constexpr Member kCaptioned[] = {
+    kVisible, kEnabled, {"caption", [](JsonWriter& json, const Control& c) {
+                           json.String(TextView(As<Captioned>(c).caption()));
+                         }}};
+
+constexpr Member kCheckBox[] = {
+    kVisible, kEnabled, kCaptioned[2], {"value", [](JsonWriter& json, const Control& c) {
+                                          json.Number(As<CheckBox>(c).value());
+                                        }}};
+
+constexpr Member kTextBox[] = {kVisible, kEnabled, {"text", [](JsonWriter& json, const Control& c) {
+                                                      json.String(TextView(As<TextBox>(c).text()));
+                                                    }}};
+
+constexpr Member kComboBox[] = {
+    kVisible,
+    kEnabled,
+    {"text",
+     [](JsonWriter& json, const Control& c) { json.String(TextView(As<ComboBox>(c).text())); }},
+    {"items", [](JsonWriter& json, const Control& c) { WriteItems(json, As<ComboBox>(c)); }},
+    {"index", [](JsonWriter& json, const Control& c) { json.Number(As<ComboBox>(c).index()); }},
+    {"locked", [](JsonWriter& json, const Control& c) { json.Bool(As<ComboBox>(c).locked()); }}};
+
+constexpr Member kListBoxWithBoxes[] = {
+    kVisible,
+    kEnabled,
+    {"items", [](JsonWriter& json, const Control& c) { WriteItems(json, As<ListBox>(c)); }},
+    {"index", [](JsonWriter& json, const Control& c) { json.Number(As<ListBox>(c).index()); }},
+    {"selected",
+     [](JsonWriter& json, const Control& c) {
+       WritePositions(json, As<ListBox>(c), &ListBox::Selected);
+     }},
+    {"checked", [](JsonWriter& json, const Control& c) {
+       WritePositions(json, As<ListBox>(c), &ListBox::Checked);
+     }}};
+constexpr std::span<const Member> kListBox = std::span(kListBoxWithBoxes).first(5);
+
+constexpr Member kProgressBar[] = {
+    kVisible,
+    kEnabled,
+    {"max", [](JsonWriter& json, const Control& c) { json.Number(As<ProgressBar>(c).max()); }},
+    {"value", [](JsonWriter& json, const Control& c) { json.Number(As<ProgressBar>(c).value()); }}};
+
+constexpr Member kStatusBar[] = {
+    kVisible, kEnabled, {"text", [](JsonWriter& json, const Control& c) {
+                           json.String(TextView(As<StatusBar>(c).text()));
+                         }}};
+
+constexpr Member kTimer[] = {
+    {"interval", [](JsonWriter& json, const Control& c) { json.Number(As<Timer>(c).interval()); }},
+    {"active", [](JsonWriter& json, const Control& c) { json.Bool(As<Timer>(c).active()); }}};
+
+constexpr Member kPlain[] = {kVisible, kEnabled};
+constexpr Member kLine[] = {kVisible};
+
+struct KindInDump {
+  std::string_view name;
+  std::span<const Member> members;
+};
+
+// The one place that knows what each kind shows.
+KindInDump Describe(const Control& control) {
+  switch (control.kind()) {
+    case Kind::kLabel:
+      return {"Label", kCaptioned};
+    case Kind::kButton:
+      return {"Button", kCaptioned};
+    case Kind::kFrame:
+      return {"Frame", kCaptioned};
+    case Kind::kMenu:
+      return {"Menu", kCaptioned};
+    case Kind::kCheckBox:
+      return {"CheckBox", kCheckBox};
+    case Kind::kTextBox:
+      return {"TextBox", kTextBox};
+    case Kind::kComboBox:
+      return {"ComboBox", kComboBox};
+    case Kind::kListBox:
+      return {"ListBox", As<ListBox>(control).has_boxes() ? kListBoxWithBoxes : kListBox};
+    case Kind::kListView:
+      return {"ListView", kPlain};
+    case Kind::kTreeView:
+      return {"TreeView", kPlain};
+    case Kind::kProgressBar:
+      return {"ProgressBar", kProgressBar};
+    case Kind::kStatusBar:
+      return {"StatusBar", kStatusBar};
+    case Kind::kTimer:
+      return {"Timer", kTimer};
+    case Kind::kCommonDialog:
+      return {"CommonDialog", {}};
+    case Kind::kPicture:
+      return {"Picture", kPlain};
+    case Kind::kUpDown:
+      return {"UpDown", kPlain};
+    case Kind::kLine:
+      return {"Line", kLine};
+  }
+  return {};
+}
+
+void WriteControl(JsonWriter& json, const Control& control) {
+  const KindInDump kind = Describe(control);
+  json.BeginObject().Name("kind").String(kind.name);
+  for (const Member& member : kind.members) member.write(json.Name(member.name), control);
+  json.EndObject();
+}
+
+}  // namespace
+
+void WriteForm(JsonWriter& json, const Form& form) {
+  json.Name("form").String(form.name());
+  json.Name("caption").String(TextView(form.caption()));
+  json.Name("visible").Bool(form.visible());
+  json.Name("width").Number(form.width());
+  json.Name("height").Number(form.height());
+  json.Name("topmost").Bool(form.topmost());
+  json.Name("controls").BeginObject();
+  for (const Control* control : form.controls()) {
+    WriteControl(json.Name(control->name()), *control);
+  }
+  json.EndObject();
+}
+
+bool WriteMember(JsonWriter& json, const Control& control, std::string_view name) {
+  const KindInDump kind = Describe(control);
+  for (const Member& member : kind.members) {
+    if (member.name != name) continue;
+    member.write(json, control);
+    return true;
+  }
+  return false;
+}
+
+}  // namespace orvik::forms::headless

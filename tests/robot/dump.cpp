@@ -1,0 +1,161 @@
+#include "robot/dump.h"
+
+#include "forms/form.h"
+#include "robot/controls.h"
+#include "robot/list_reader.h"
+#include "robot/window_facts.h"
+
+namespace orvik::robot {
+
+namespace {
+
+using forms::Kind;
+using forms::headless::JsonWriter;
+
+constexpr int kTwipsPerInch = 1440;
+
+// A control that is being written.
+struct Subject {
+  HANDLE process;
+  HWND window;
+};
+
+void WriteState(JsonWriter& json, HWND control) {
+  json.Name("visible").Bool(IsShown(control));
+  json.Name("enabled").Bool((StyleOf(control) & WS_DISABLED) == 0);
+}
+
+void WriteText(JsonWriter& json, const Subject& control, std::string_view member) {
+  WriteState(json, control.window);
+  json.Name(member).String(TextView(TextOf(control.window)));
+}
+
+void WriteCaption(JsonWriter& json, const Subject& control) { WriteText(json, control, "caption"); }
+
+void WriteCheckBox(JsonWriter& json, const Subject& control) {
+  WriteCaption(json, control);
+  json.Name("value").Number(SendMessageW(control.window, BM_GETCHECK, 0, 0));
+}
+
+void WriteItems(JsonWriter& json, const std::vector<Text>& items) {
+  json.Name("items").BeginArray();
+  for (const Text& item : items) json.String(TextView(item));
+  json.EndArray();
+}
+
+void WritePositions(JsonWriter& json, std::string_view member, const std::vector<int>& positions) {
+  json.Name(member).BeginArray();
+  for (int position : positions) json.Number(position);
+  json.EndArray();
+}
+
+void WriteComboBox(JsonWriter& json, const Subject& control) {
+  WriteText(json, control, "text");
+  WriteItems(json, ComboItems(control.window));
+  json.Name("index").Number(SendMessageW(control.window, CB_GETCURSEL, 0, 0));
+  json.Name("locked").Bool((StyleOf(FieldOf(control.window)) & ES_READONLY) != 0);
+}
+
+void WriteListBox(JsonWriter& json, const Subject& control) {
+  const ListState list = IsListView(control.window) ? ReadListView(control.process, control.window)
+                                                    : ReadListBox(control.window);
+  WriteState(json, control.window);
+  WriteItems(json, list.items);
+  json.Name("index").Number(list.index);
+  WritePositions(json, "selected", list.selected);
+  if (list.has_boxes) WritePositions(json, "checked", list.checked);
+}
+
+void WriteProgressBar(JsonWriter& json, const Subject& control) {
+  WriteState(json, control.window);
+  json.Name("max").Number(SendMessageW(control.window, PBM_GETRANGE, FALSE, 0));
+  json.Name("value").Number(SendMessageW(control.window, PBM_GETPOS, 0, 0));
+}
+
+void WriteKind(JsonWriter& json, std::string_view name, const Subject& control,
+               void (*write)(JsonWriter&, const Subject&)) {
+  json.Name("kind").String(name);
+  write(json, control);
+}
+
+// The one place that knows what each kind shows.
+void WriteMembers(JsonWriter& json, const Subject& control) {
+  const auto text = [](JsonWriter& out, const Subject& c) { WriteText(out, c, "text"); };
+  const auto plain = [](JsonWriter& out, const Subject& c) { WriteState(out, c.window); };
+  const auto line = [](JsonWriter& out, const Subject& c) {
+    out.Name("visible").Bool(IsShown(c.window));
+  };
+  switch (KindOf(control.window)) {
+    case Kind::kLabel:
+      return WriteKind(json, "Label", control, WriteCaption);
+    case Kind::kButton:
+      return WriteKind(json, "Button", control, WriteCaption);
+    case Kind::kFrame:
+      return WriteKind(json, "Frame", control, WriteCaption);
+    case Kind::kCheckBox:
+      return WriteKind(json, "CheckBox", control, WriteCheckBox);
+    case Kind::kTextBox:
+      return WriteKind(json, "TextBox", control, text);
+    case Kind::kComboBox:
+      return WriteKind(json, "ComboBox", control, WriteComboBox);
+    case Kind::kListBox:
+      return WriteKind(json, "ListBox", control, WriteListBox);
+    case Kind::kListView:
+      return WriteKind(json, "ListView", control, plain);
+    case Kind::kTreeView:
+      return WriteKind(json, "TreeView", control, plain);
+    case Kind::kProgressBar:
+      return WriteKind(json, "ProgressBar", control, WriteProgressBar);
+    case Kind::kStatusBar:
+      return WriteKind(json, "StatusBar", control, text);
+    case Kind::kPicture:
+      return WriteKind(json, "Picture", control, plain);
+    case Kind::kUpDown:
+      return WriteKind(json, "UpDown", control, plain);
+    case Kind::kLine:
+      return WriteKind(json, "Line", control, line);
+    // These have no window.
+    case Kind::kMenu:
+    case Kind::kTimer:
+    case Kind::kCommonDialog:
+      return;
+  }
+}
+
+int Twips(int pixels, HWND window) {
+  const HDC context = GetDC(window);
+  const int dpi = GetDeviceCaps(context, LOGPIXELSX);
+  ReleaseDC(window, context);
+  return MulDiv(pixels, kTwipsPerInch, dpi);
+}
+
+}  // namespace
+
+std::string FormNameOf(HWND window) {
+  constexpr TextView kPrefix = u"Orvik.";
+  const Text name = ClassOf(window);
+  return name.starts_with(kPrefix) ? ToUtf8(TextView(name).substr(kPrefix.size())) : std::string();
+}
+
+void WriteForm(JsonWriter& json, HANDLE process, HWND form) {
+  RECT inner{};
+  GetClientRect(form, &inner);
+  json.Name("form").String(FormNameOf(form));
+  json.Name("caption").String(TextView(TextOf(form)));
+  json.Name("visible").Bool(IsShown(form));
+  json.Name("width").Number(Twips(inner.right, form) + forms::kFrameWidth);
+  json.Name("height").Number(Twips(inner.bottom, form) + forms::kFrameHeight);
+  json.Name("topmost").Bool((ExtendedStyleOf(form) & WS_EX_TOPMOST) != 0);
+  json.Name("controls").BeginObject();
+  ForEachBelow(form, [&](HWND window) {
+    const std::string name = NameOf(window);
+    if (name.empty()) return true;  // a part of a control
+    json.Name(name).BeginObject();
+    WriteMembers(json, {process, window});
+    json.EndObject();
+    return true;
+  });
+  json.EndObject();
+}
+
+}  // namespace orvik::robot

@@ -1,0 +1,50 @@
+"""What an observer outside of the process sees of a transcript."""
+
+import unittest
+
+from projection import from_outside
+
+SHOW = {"event": "show", "form": "frmMain"}
+UNLOAD = {"event": "unload", "form": "frmMain"}
+MESSAGE = {"event": "message", "text": "a", "title": "b", "icon": "none", "buttons": "ok",
+           "answer": "ok"}
+
+
+def end(reason):
+    return {"event": "end", "reason": reason}
+
+
+class FromOutside(unittest.TestCase):
+    def test_timers_and_common_dialogs_have_no_window(self):
+        label = {"kind": "Label", "visible": True, "enabled": True, "caption": "c"}
+        dump = {"event": "dump", "form": "frmMain", "caption": "d", "controls": {
+            "clExit": {"kind": "Timer", "interval": 1, "active": True},
+            "cdOpen": {"kind": "CommonDialog", "filter": "", "filename": ""},
+            "mtOut": label}}
+        seen = from_outside([dump, end("script")])
+        self.assertEqual(seen[0]["controls"], {"mtOut": label})
+        self.assertEqual(seen[0]["caption"], "d")
+        self.assertEqual(len(dump["controls"]), 3)
+
+    def test_other_processes_are_not_seen(self):
+        start = {"event": "start", "command": "notepad", "window": 1}
+        kill = {"event": "kill", "process": "punto.exe"}
+        self.assertEqual(from_outside([start, SHOW, kill, end("script")]), [SHOW, end("script")])
+
+    def test_ways_to_end_by_itself_are_alike(self):
+        for reason in ("shutdown", "closed", "returned"):
+            self.assertEqual(from_outside([SHOW, end(reason)]), [SHOW, end("ended")])
+        for reason in ("script", "calls", "time"):
+            self.assertEqual(from_outside([SHOW, end(reason)]), [SHOW, end(reason)])
+
+    def test_forms_that_go_with_their_process_are_not_seen_to_go(self):
+        self.assertEqual(from_outside([SHOW, UNLOAD, UNLOAD, end("closed")]), [SHOW, end("ended")])
+
+    def test_forms_that_go_earlier_are_seen(self):
+        events = [SHOW, UNLOAD, MESSAGE, end("closed")]
+        self.assertEqual(from_outside(events), [SHOW, UNLOAD, MESSAGE, end("ended")])
+        self.assertEqual(from_outside([SHOW, UNLOAD, end("script")]), [SHOW, UNLOAD, end("script")])
+
+
+if __name__ == "__main__":
+    unittest.main()
