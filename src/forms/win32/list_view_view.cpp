@@ -256,7 +256,9 @@ std::optional<LRESULT> ListViewView::OnNotify(NMHDR& header) {
 LRESULT ListViewView::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
     case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
     case WM_RBUTTONDOWN:
+    case WM_RBUTTONUP:
       // Told to the model when the window says which row was meant.
       return Default(message, wparam, lparam);
     case WM_KEYDOWN:
