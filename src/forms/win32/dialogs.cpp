@@ -57,8 +57,8 @@ Text EndingOf(const Text& filter) {
 }  // namespace
 
 Answer ShowMessage(HWND owner, const Text& text, const Text& title, Icon icon, Buttons buttons) {
-  // Without an owner it must come to the front by itself.
-  const UINT front = owner == nullptr ? MB_SETFOREGROUND : 0;
+  // Without an owner in sight it must come to the front by itself.
+  const UINT front = owner == nullptr || IsWindowVisible(owner) == 0 ? MB_SETFOREGROUND : 0;
   switch (MessageBoxW(owner, Wide(text), Wide(title), StyleOf(icon) | StyleOf(buttons) | front)) {
     case IDYES:
       return Answer::kYes;
