@@ -90,7 +90,8 @@ def parse() -> argparse.Namespace:
     parser.add_argument("--quick", action="store_true",
                         help="a hundredth of the files, one run: shows that everything works")
     parser.add_argument("--only", nargs="+", metavar="GROUP",
-                        choices=("checksum", "fast", "walk", "copy", "update"))
+                        choices=("checksum", "fast", "walk", "copy", "update", "list", "folders",
+                                 "lists"))
     parser.add_argument("--write", type=Path, metavar="FILE",
                         help="put the table between the bench marks of this file as well")
     options = parser.parse_args()

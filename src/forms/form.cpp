@@ -74,6 +74,7 @@ void Form::Show() {
   // A form may take itself away in its load routine.
   if (!loaded() || visible_) return;
   visible_ = true;
+  OnResize();
   Front().Show(*this);
 }
 

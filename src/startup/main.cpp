@@ -7,6 +7,8 @@
 #include "fileengine/checksums.h"
 #include "fileengine/frm_file_crc.h"
 #include "fileengine/paths.h"
+#include "filelists/frm_crc.h"
+#include "filelists/frm_create_file_list.h"
 #include "forms/instance.h"
 #include "host/registry.h"
 #include "startup/commands.h"
@@ -30,7 +32,19 @@ void Show() {
 }
 
 constexpr Switch kSwitches[] = {
+    {u"/CRC ", Show<frmCRC>},
+    {u"/CPR ",
+     [] {
+       CompareWithFolder = kTrue;
+       Show<frmCRC>();
+     }},
+    {u"/CML ",
+     [] {
+       CompareFileLists = kTrue;
+       Show<frmCRC>();
+     }},
     {u"/FCR ", Show<frmFileCRC>},
+    {u"/CRL ", Show<frmCreateFileList>},
     {u"/SYF ", [] { RunCopyScript(CommandArgs); }},
     {u"/SCH ", Show<frmMain>},
 };

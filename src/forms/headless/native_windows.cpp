@@ -2,8 +2,6 @@
 
 #include "forms/headless/native.h"
 #include "host/win32/windows_api.h"
-// What it declares needs the one above.
-#include <shellapi.h>
 
 namespace orvik::forms::headless {
 
