@@ -136,8 +136,7 @@ TEST_F(NamesTest, LeadingAndInnerBlanksAndDotsBelongToTheName) {
 }
 
 TEST_F(NamesTest, UnknownDrivesSharesAndEmptyPathsDontExist) {
-  for (const Text path :
-       {u"", u"Q:", u"Q:\\", u"Q:\\x", u"\\\\nowhere\\share\\x", u"1:\\x"}) {
+  for (const Text path : {u"", u"Q:", u"Q:\\", u"Q:\\x", u"\\\\nowhere\\share\\x", u"1:\\x"}) {
     EXPECT_FALSE(files().PathExists(path)) << U(path);
     EXPECT_EQ(files().Attributes(path), std::nullopt) << U(path);
     EXPECT_EQ(files().Open(path, OpenMode::kReadWriteCreate), nullptr) << U(path);

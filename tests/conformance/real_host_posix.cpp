@@ -36,7 +36,7 @@ struct RealHost::System {
   explicit System(const std::string& temporary) : folder(temporary), host(OptionsFor(temporary)) {}
 
   std::string PathOf(TextView name) const {
-    std::string path = folder + "/work/" + ToUtf8(name);
+    std::string path = folder + "/area/" + ToUtf8(name);
     std::replace(path.begin(), path.end(), '\\', '/');
     return path;
   }

@@ -1,13 +1,13 @@
 #include "robot/list_reader.h"
 
+#include <algorithm>
+
 #include "robot/remote.h"
 #include "robot/window_facts.h"
 
 namespace orvik::robot {
 
 namespace {
-
-constexpr int kLongestCell = 4096;
 
 int Ask(HWND window, UINT message, int wparam = 0, LPARAM lparam = 0) {
   return static_cast<int>(SendMessageW(window, message, static_cast<WPARAM>(wparam), lparam));
@@ -22,6 +22,32 @@ Text EntryText(HWND window, int position, UINT length_message, UINT text_message
   text.resize(static_cast<std::size_t>(std::max(copied, 0)));
   return text;
 }
+
+// Reads cells of list views by way of one piece of the other process's memory.
+class CellReader {
+ public:
+  explicit CellReader(HANDLE process) : remote_(process, sizeof(LVITEMW) + kRoom) {}
+
+  Text Read(HWND list_view, int row, int column) const {
+    LVITEMW item{};
+    item.iSubItem = column;
+    item.pszText = reinterpret_cast<wchar_t*>(remote_.address(sizeof item));
+    item.cchTextMax = kLongestCell;
+    remote_.Write(&item, sizeof item);
+    // The answer is the length of the text.
+    const int length =
+        std::clamp(Ask(list_view, LVM_GETITEMTEXTW, row, remote_.address()), 0, kLongestCell - 1);
+    Text text(static_cast<std::size_t>(length), u'\0');
+    if (length > 0) remote_.Read(text.data(), text.size() * sizeof(char16_t), sizeof item);
+    return text;
+  }
+
+ private:
+  static constexpr int kLongestCell = 4096;
+  static constexpr std::size_t kRoom = kLongestCell * sizeof(char16_t);
+
+  RemoteBytes remote_;
+};
 
 }  // namespace
 
@@ -52,19 +78,13 @@ bool IsChecked(HWND list_view, int position) {
   return Ask(list_view, LVM_GETITEMSTATE, position, LVIS_STATEIMAGEMASK) == kOn;
 }
 
-Text CellText(HANDLE process, HWND list_view, int row, int column) {
-  LVITEMW item{};
-  item.iSubItem = column;
-  return SendForText(process, list_view, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), item,
-                     &LVITEMW::pszText, &LVITEMW::cchTextMax, kLongestCell);
-}
-
 ListState ReadListView(HANDLE process, HWND list) {
   ListState state;
+  const CellReader cells(process);
   state.has_boxes = HasBoxes(list);
   const int count = Ask(list, LVM_GETITEMCOUNT);
   for (int position = 0; position < count; ++position) {
-    state.items.push_back(CellText(process, list, position, 0));
+    state.items.push_back(cells.Read(list, position, 0));
     if (state.has_boxes && IsChecked(list, position)) state.checked.push_back(position);
   }
   for (int at = -1; (at = Ask(list, LVM_GETNEXTITEM, at, LVNI_SELECTED)) >= 0;) {

@@ -24,8 +24,6 @@ ListState ReadListView(HANDLE process, HWND list);
 bool IsListView(HWND list);
 bool HasBoxes(HWND list_view);
 bool IsChecked(HWND list_view, int position);
-// The text of a row's cell.
-Text CellText(HANDLE process, HWND list_view, int row, int column);
 
 // The entries in the list of a combo box.
 std::vector<Text> ComboItems(HWND combo_box);

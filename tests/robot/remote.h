@@ -39,22 +39,4 @@ LRESULT SendStructure(HANDLE process, HWND window, UINT message, WPARAM wparam,
   return result;
 }
 
-// The same for a structure (such as LVITEMW) with room for a text of up to `capacity` characters
-// behind it; gives the text. `text` and `length` are the members that tell the room.
-template <typename Structure>
-Text SendForText(HANDLE process, HWND window, UINT message, WPARAM wparam, Structure& structure,
-                 wchar_t* Structure::*text, int Structure::*length, int capacity) {
-  Text buffer(static_cast<std::size_t>(capacity), u'\0');
-  const std::size_t size = buffer.size() * sizeof(char16_t);
-  const RemoteBytes remote(process, sizeof structure + size);
-  structure.*text = reinterpret_cast<wchar_t*>(remote.address(sizeof structure));
-  structure.*length = capacity;
-  remote.Write(&structure, sizeof structure);
-  SendMessageW(window, message, wparam, remote.address());
-  remote.Read(&structure, sizeof structure);
-  remote.Read(buffer.data(), size, sizeof structure);
-  buffer.resize(std::min(buffer.find(u'\0'), buffer.size()));
-  return buffer;
-}
-
 }  // namespace orvik::robot

@@ -38,7 +38,10 @@ bool Session::Settle() {
     const ULONGLONG now = GetTickCount64();
     const ULONGLONG used = program_.BusyTime();
     if (news || messenger_.pending() || used != busy || !Answers()) {
-      if (now >= end) throw Hung();
+      if (now >= end) {
+        throw Hung(forms_.any() ? "the program doesn't come to rest"
+                                : "no form appears, and the program goes on");
+      }
       busy = used;
       quiet_since = now;
     } else if (now - quiet_since >= kQuiet) {

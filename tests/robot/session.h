@@ -14,7 +14,7 @@ namespace orvik::robot {
 
 // The program didn't come to rest in time.
 struct Hung : std::runtime_error {
-  Hung() : std::runtime_error("the program doesn't come to rest") {}
+  using std::runtime_error::runtime_error;
 };
 
 class Session {

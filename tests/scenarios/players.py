@@ -19,12 +19,38 @@ def _run(command, scenario, **more):
                   process.stderr.decode("utf-8", errors="replace"))
 
 
-class Linux:
+def windows_path(path):
+    """A path of this system as Wine has it."""
+    return "Z:" + os.path.abspath(path).replace("/", "\\")
+
+
+class Player:
+    """Plays between the entry and the exit of "with"."""
+
+    # Whether a transcript that isn't there yet may come from this player.
+    writes = True
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        pass
+
+    @staticmethod
+    def same(line):
+        """A line of a transcript without what can't be the same for this player."""
+        return line
+
+    @classmethod
+    def view(cls, lines):
+        """A whole transcript without that; what must come out and what does are both seen so."""
+        return [cls.same(line) for line in lines]
+
+
+class Linux(Player):
     """orvik-headless on this system."""
 
     program = os.path.join("build", "linux-release", "src", "orvik-headless")
-    # What of a transcript can't be the same here; see Wine.
-    same = staticmethod(lambda line: line)
 
     def play(self, scenario, tree, work):
         home = os.path.join(work, "home")
@@ -38,7 +64,7 @@ class Linux:
                          "XDG_CONFIG_HOME": home + "/config"})
 
 
-class Wine:
+class Wine(Player):
     """orvik-headless.exe on the registry, the shell and the file system of Wine."""
 
     program = os.path.join("build", "windows-release", "src", "orvik-headless.exe")
@@ -70,8 +96,6 @@ class Wine:
                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False)
         command = [self.wine_run, "--drive", "T=" + tree, self.program]
         if scenario.script:
-            command += ["--script", "Z:" + scenario.script.replace("/", "\\")]
+            command += ["--script", windows_path(scenario.script)]
         return _run(command + scenario.options + ["--", scenario.line], scenario)
 
-
-PLAYERS = {"linux": Linux, "wine": Wine}

@@ -3,6 +3,9 @@
 
     run.py --player linux [--program PATH] [NAME...]
 
+Players: linux, orvik-headless; wine, orvik-headless.exe under Wine; robot, the real windows of
+Orvik.exe under Wine, which needs a screen (scripts/with-display).
+
 A scenario is a folder beside this file:
 
     scenario.ini       what to run; see below
@@ -20,7 +23,7 @@ scenario.ini, UTF-8:
     options =                   more options, one a line
         --now=2024-02-29 13:05:09
         --lock=T:\\a.txt@2000
-    players = linux, wine       who can play it; all when left out
+    players = linux, wine       who can play it; all three when left out
     reason = ...                why the others can't, then
     status = 0                  the exit status that must come out
     after = no                  the tree afterwards doesn't matter
@@ -37,11 +40,13 @@ import subprocess
 import sys
 
 import manifest
-from players import PLAYERS, ROOT
+from players import ROOT, Linux, Wine
+from robot_player import Robot
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 KNOWN = {"line", "options", "players", "reason", "status", "after", "timeout"}
-EVERYBODY = ["linux", "wine", "robot"]
+PLAYERS = {"linux": Linux, "wine": Wine, "robot": Robot}
+EVERYBODY = list(PLAYERS)
 
 
 class Scenario:
@@ -99,16 +104,19 @@ def remove_tree(folder):
         raise OSError("can't remove " + folder)
 
 
-def compare(path, came_out, same):
-    """Complaints about what came out (lines) against a file; writes the file when it is missing."""
+def compare(path, came_out, view, writes=True):
+    """Complaints about what came out (lines) against a file, both seen by `view`; writes the file
+    when it is missing."""
     if not os.path.exists(path):
+        if not writes:
+            return ["missing, to be written by another player: " + path]
         with open(path, "w", encoding="utf-8", newline="\n") as file:
             file.writelines(line + "\n" for line in came_out)
         return ["written, look at it: " + path]
     with open(path, encoding="utf-8", newline="\n") as file:
         expected = [line.rstrip("\n") for line in file]
-    wanted = [same(line) for line in expected]
-    got = [same(line) for line in came_out]
+    wanted = view(expected)
+    got = view(came_out)
     if wanted == got:
         return []
     return list(difflib.unified_diff(wanted, got, os.path.basename(path), "came out",
@@ -138,10 +146,10 @@ def play(scenario, player, work):
     if "\r" in transcript or not transcript.endswith("\n"):
         return ["lines of the transcript end in something else than LF"]
     complaints = compare(scenario.path("transcript.jsonl"), transcript[:-1].split("\n"),
-                         player.same)
+                         player.view, player.writes)
     if scenario.after:
         complaints += compare(scenario.path("after.txt"), manifest.describe(tree),
-                              lambda line: line)
+                              lambda lines: lines, player.writes)
     return complaints
 
 
@@ -152,20 +160,20 @@ def main(arguments):
     parser.add_argument("--work", help="where trees are made; else build/scenarios")
     parser.add_argument("name", nargs="*", help="scenarios; all when left out")
     options = parser.parse_args(arguments)
-    player = PLAYERS[options.player]()
-    player.program = os.path.abspath(options.program or os.path.join(ROOT, player.program))
     work = os.path.abspath(options.work or os.path.join(ROOT, "build", "scenarios"))
     failed = []
     played = 0
-    for scenario in scenarios(HERE, options.name):
-        if options.player not in scenario.players:
-            continue
-        played += 1
-        complaints = play(scenario, player, os.path.join(work, options.player, scenario.name))
-        if complaints:
-            failed.append(scenario.name)
-            print("FAILED %s (%s)" % (scenario.name, options.player))
-            print("\n".join("    " + line for line in complaints))
+    with PLAYERS[options.player]() as player:
+        player.program = os.path.abspath(options.program or os.path.join(ROOT, player.program))
+        for scenario in scenarios(HERE, options.name):
+            if options.player not in scenario.players:
+                continue
+            played += 1
+            complaints = play(scenario, player, os.path.join(work, options.player, scenario.name))
+            if complaints:
+                failed.append(scenario.name)
+                print("FAILED %s (%s)" % (scenario.name, options.player))
+                print("\n".join("    " + line for line in complaints))
     print("%d scenarios played by %s, %d failed" % (played, options.player, len(failed)))
     return 1 if failed or not played else 0
 

@@ -9,10 +9,8 @@ import players
 import run
 
 
-class FakePlayer:
+class FakePlayer(players.Player):
     """Hands out a prepared transcript and leaves a file in the tree."""
-
-    same = staticmethod(lambda line: line)
 
     def __init__(self, transcript=b'{"event":"end","reason":"returned"}\n', status=0):
         self.played = players.Played(status, transcript, "trouble")
@@ -123,6 +121,14 @@ class PlayTest(Folder):
         self.assertEqual(self.read("transcript.jsonl"), '{"event":"end","reason":"returned"}\n')
         self.assertEqual(self.read("after.txt"), 'file "made.txt" text="made by L"\n')
         self.assertEqual(self.play(), [])
+
+    def test_who_sees_less_writes_nothing(self):
+        player = FakePlayer()
+        player.writes = False
+        complaints = self.play(player)
+        self.assertEqual(len(complaints), 2)
+        self.assertTrue(all(line.startswith("missing") for line in complaints))
+        self.assertFalse(os.path.exists(os.path.join(self.folder, "transcript.jsonl")))
 
     def test_another_line_fails(self):
         self.play()

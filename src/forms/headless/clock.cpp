@@ -18,7 +18,10 @@ void Clock::AdvanceTo(std::int64_t time) {
   if (pace_ == Pace::kVirtual) {
     virtual_ = std::max(virtual_, target);
   } else {
-    std::this_thread::sleep_until(start_ + std::chrono::milliseconds(target));
+    // A system may wake a sleeper a little early.
+    while (Now() < target) {
+      std::this_thread::sleep_until(start_ + std::chrono::milliseconds(target));
+    }
   }
   Check();
 }

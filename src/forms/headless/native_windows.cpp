@@ -1,10 +1,7 @@
 #ifdef _WIN32
 
-#include <windows.h>
-// The services of the shell need the one above.
-#include <shellapi.h>
-
 #include "forms/headless/native.h"
+#include "host/win32/windows_api.h"
 
 namespace orvik::forms::headless {
 

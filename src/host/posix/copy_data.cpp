@@ -12,7 +12,7 @@ namespace orvik::host::posix {
 namespace {
 
 // Up to here two plain calls are quicker than a copy inside the kernel.
-constexpr off_t kSmall = 64 * 1024;
+constexpr off_t kSmall = off_t{64} * 1024;
 constexpr std::size_t kMostAtOnce = 0x40000000;
 
 bool WriteAll(int target, const char* bytes, std::size_t count, off_t position) {
@@ -92,7 +92,7 @@ bool CopyAroundHoles(int source, int target, off_t length) {
 bool ReserveRoom(const struct stat& source_status, int target, const struct stat& target_status) {
   const off_t wanted = source_status.st_size;
   if (wanted <= target_status.st_size || HasHoles(source_status)) return true;
-  return ::fallocate(target, FALLOC_FL_KEEP_SIZE, 0, wanted) == 0 ||
+  return ::fallocate(target, 0, 0, wanted) == 0 ||
          (errno != ENOSPC && errno != EDQUOT && errno != EFBIG);
 }
 

@@ -7,7 +7,7 @@
 
 namespace orvik::host::posix {
 namespace {
-constexpr std::size_t kBufferBytes = 128 * 1024;
+constexpr std::size_t kBufferBytes = std::size_t{128} * 1024;
 }
 
 FolderReader::FolderReader() : buffer_(std::make_unique<char[]>(kBufferBytes)) {}

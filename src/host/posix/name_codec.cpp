@@ -11,9 +11,7 @@ constexpr char16_t kCachedCapitals = 0x600;
 constexpr std::array<bool, 128> AllowedTable() {
   std::array<bool, 128> allowed{};
   for (std::size_t c = 0x20; c < 0x80; ++c) allowed[c] = true;
-  for (const char c : {'\\', '/', ':', '*', '?', '"', '<', '>', '|'}) {
-    allowed[static_cast<std::size_t>(c)] = false;
-  }
+  for (const char16_t c : TextView(u"\\/:*?\"<>|")) allowed[c] = false;
   return allowed;
 }
 constexpr std::array<bool, 128> kAllowed = AllowedTable();

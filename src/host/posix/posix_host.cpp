@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <climits>
+#include <csignal>
 
 #include "host/posix/file_system.h"
 #include "host/posix/native_files.h"
@@ -69,6 +70,8 @@ struct PosixHost::Parts {
 };
 
 PosixHost::PosixHost(Options options) {
+  // A limit for the length of files is an error like a full disk, not the end of the process.
+  ::signal(SIGXFSZ, SIG_IGN);
   const auto drive = options.drives.find(u'C');
   if (drive != options.drives.end() && drive->second == DefaultDriveC()) {
     MakeFolders(drive->second + "/Windows/Temp");

@@ -19,6 +19,7 @@ namespace {
   for (int fd = STDIN_FILENO; fd <= STDERR_FILENO && nothing >= 0; ++fd) ::dup2(nothing, fd);
   ::signal(SIGPIPE, SIG_DFL);
   ::signal(SIGINT, SIG_DFL);
+  ::signal(SIGXFSZ, SIG_DFL);
   ::execvp(words[0], words);
   const char failed = 1;
   [[maybe_unused]] const ssize_t told = ::write(pipe, &failed, 1);
@@ -29,6 +30,7 @@ namespace {
 
 bool StartProgram(const std::vector<std::string>& words) {
   std::vector<char*> pointers;
+  pointers.reserve(words.size() + 1);
   for (const std::string& word : words) pointers.push_back(const_cast<char*>(word.c_str()));
   pointers.push_back(nullptr);
   int ends[2];
