@@ -1,4 +1,5 @@
 #include "base/numbers.h"
+#include "cleaning/frm_empty_folders.h"
 #include "copying/copy_job.h"
 #include "copying/frm_main.h"
 #include "copying/recent_combos.h"
@@ -47,8 +48,11 @@ void StartCopy() {
   if (form.cxReport.checked()) return;
   form.SetCaption(u"Завершено. Скопировано" + SpacedDecimal(copied) + u" файлов, ошибок" +
                   SpacedDecimal(CopyErrorCount));
-  // The process goes on with the check of the source for empty folders.
-  if (form.cxAfterEmptyFolderCheck.checked()) return;
+  if (form.cxAfterEmptyFolderCheck.checked()) {
+    // It looks for empty folders in the source, and the process ends with it.
+    forms::The<frmEmptyFolders>().Show();
+    return;
+  }
   WindowZposition::SetWindowTopmost(form, true);
   form.clExit.SetActive(true);
 }

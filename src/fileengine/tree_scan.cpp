@@ -19,22 +19,6 @@ ScanCollection DriveNames;
 
 namespace {
 
-// The names of a folder's entries, "." and ".." among them. Throws Failure when the drive can't be
-// asked at all; a folder that can't be listed is empty.
-std::vector<Text> ListNames(const Text& folder) {
-  std::vector<Text> names;
-  host::FindRecord record;
-  const auto entries = host::Files().FindFirst(folder + u"\\*", host::Details::kFolderBit, record);
-  if (!entries) {
-    if (!host::Files().PathExists(GetDriveSpec(folder) + u"\\")) throw Failure{};
-    return names;
-  }
-  do {
-    names.push_back(record.name);
-  } while (entries->Next(record));
-  return names;
-}
-
 // True for the folder bit, also when the attributes can't be read: that failing condition passes.
 bool IsFolderPath(const Text& path) {
   return Passes([&] {
@@ -70,7 +54,7 @@ struct TreeScan {
       if (folder.ends_with(u'\\')) folder.pop_back();
       Attempt([&] { ++index; });
       std::vector<Text> entries;
-      const auto list = [&] { entries = ListNames(folder); };
+      const auto list = [&] { entries = ListFolder(folder, u"*"); };
       if (first_entry_taken) {
         Attempt(list);
       } else {
@@ -94,6 +78,31 @@ double SizeOf(const host::FindRecord& record) {
          static_cast<double>(static_cast<std::int32_t>(record.size_low));
 }
 
+// The bytes of a file, or of a folder whose subfolders are measured by `size_below`.
+template <typename SizeBelow>
+double SizeOfTree(const Text& path, SizeBelow&& size_below) {
+  const auto attributes = host::Files().Attributes(path);
+  if (!attributes) return 0;
+  if ((*attributes & host::attribute::kFolder) == 0) {
+    double length = 0;
+    Attempt([&] { length = FileLength(path); });
+    return length;
+  }
+  double total = 0;
+  host::FindRecord record;
+  const auto entries = host::Files().FindFirst(path + u"\\*.*", host::Details::kSizes, record);
+  if (!entries) return 0;
+  do {
+    if (!IsFolderEntry(record)) {
+      total += SizeOf(record);
+    } else if (record.name != u"." && record.name != u"..") {
+      total += size_below(path + u"\\" + record.name);
+    }
+    forms::Yield();
+  } while (entries->Next(record));
+  return total;
+}
+
 }  // namespace
 
 void ClearScanResults() {
@@ -104,6 +113,21 @@ void ClearScanResults() {
 }
 
 void ResetCollection(ScanCollection& collection) { collection.emplace(); }
+
+std::vector<Text> ListFolder(const Text& folder, TextView mask) {
+  std::vector<Text> names;
+  host::FindRecord record;
+  const auto entries =
+      host::Files().FindFirst(folder + u"\\" + Text(mask), host::Details::kFolderBit, record);
+  if (!entries) {
+    if (!host::Files().PathExists(GetDriveSpec(folder) + u"\\")) throw Failure{};
+    return names;
+  }
+  do {
+    names.push_back(record.name);
+  } while (entries->Next(record));
+  return names;
+}
 
 bool ScanFolderTree(const Text& root, TextView pattern, Flag case_sensitive) {
   TreeScan scan;
@@ -136,26 +160,26 @@ void ScanAllDrives(TextView pattern) {
 }
 
 double GetTreeSize(const Text& path) {
-  const auto attributes = host::Files().Attributes(path);
-  if (!attributes) return 0;
-  if ((*attributes & host::attribute::kFolder) == 0) {
-    double length = 0;
-    Attempt([&] { length = FileLength(path); });
-    return length;
-  }
-  double total = 0;
-  host::FindRecord record;
-  const auto entries = host::Files().FindFirst(path + u"\\*.*", host::Details::kSizes, record);
-  if (!entries) return 0;
-  do {
-    if (!IsFolderEntry(record)) {
-      total += SizeOf(record);
-    } else if (record.name != u"." && record.name != u"..") {
-      total += GetTreeSize(path + u"\\" + record.name);
-    }
-    forms::Yield();
-  } while (entries->Next(record));
-  return total;
+  return SizeOfTree(path, [](const Text& below) { return GetTreeSize(below); });
+}
+
+TreeSizes::TreeSizes(Text root) {
+  // Folders below the root of a drive are named without the doubled backslash.
+  if (root.ends_with(u'\\')) root.pop_back();
+  Measure(root);
+}
+
+double TreeSizes::Measure(const Text& folder) {
+  const double size = SizeOfTree(folder, [this](const Text& below) { return Measure(below); });
+  sizes_[folder] = size;
+  return size;
+}
+
+double TreeSizes::Of(const Text& folder) const {
+  const bool closed = folder.ends_with(u'\\');
+  const auto known = sizes_.find(closed ? folder.substr(0, folder.size() - 1) : folder);
+  // What came to be a folder only by its attributes that can't be read was no folder to the pass.
+  return known != sizes_.end() ? known->second : GetTreeSize(folder);
 }
 
 }  // namespace orvik::mdlSupport

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
 #include "base/checked.h"
@@ -25,6 +26,11 @@ void ClearScanResults();
 // Replaces a collection with a new empty one.
 void ResetCollection(ScanCollection& collection);
 
+// The names of a folder's entries that match a mask, "." and ".." among them, all read before this
+// returns. Throws Failure when the drive can't be asked at all; a folder that can't be listed is
+// empty.
+std::vector<Text> ListFolder(const Text& folder, TextView mask);
+
 // Fills ScanFolders, ScanFiles and ScanNames from a tree, breadth first. The pattern of the pattern
 // operator filters files only; the empty one takes all. Yields once a folder. False when the root
 // couldn't even be asked, as on a drive without medium. Never ends on a tree of 32767 folders or
@@ -38,5 +44,19 @@ void ScanAllDrives(TextView pattern);
 // counts wrongly in a tree: the high word of its size stands for 65536 a unit, the low word is
 // signed. Limits that users have set rest on these sums. Yields after each entry.
 double GetTreeSize(const Text& path);
+
+// The sizes of all folders of a tree, each what GetTreeSize answers, for one pass over the tree.
+class TreeSizes {
+ public:
+  // Measures the tree at once. Yields after each entry.
+  explicit TreeSizes(Text root);
+  // The size of the root or of a folder below it.
+  double Of(const Text& folder) const;
+
+ private:
+  double Measure(const Text& folder);
+
+  std::unordered_map<Text, double> sizes_;
+};
 
 }  // namespace orvik::mdlSupport

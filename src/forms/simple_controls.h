@@ -144,6 +144,23 @@ class Picture : public Control {
   Image image_;
 };
 
+// A pair of arrows without a value of its own.
+class UpDown : public Control {
+ public:
+  UpDown(Form& form, const char* name, Bounds bounds)
+      : Control(form, Kind::kUpDown, name, bounds) {}
+
+  void UserUp() {
+    if (on_up) on_up();
+  }
+  void UserDown() {
+    if (on_down) on_down();
+  }
+
+  std::function<void()> on_up;
+  std::function<void()> on_down;
+};
+
 // A decorative line, drawn from the top left to the bottom right corner of its bounds.
 class Line : public Control {
  public:

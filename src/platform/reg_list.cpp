@@ -1,5 +1,7 @@
 #include "platform/reg_list.h"
 
+#include <algorithm>
+
 #include "base/failure.h"
 #include "base/numbers.h"
 #include "platform/registry_layer.h"
@@ -68,6 +70,17 @@ void SavePatternCombo(const forms::ComboBox& combo, std::uint32_t hKey, const Te
   ClearKey(hKey, path);
   mdlSupport::WriteRegValue(hKey, path, combo.text(), combo.text(), 0);
   for (const Text& item : combo.items()) mdlSupport::WriteRegValue(hKey, path, item, item, 0);
+}
+
+void RemovePatternByKey(forms::ComboBox& combo, forms::Key& key) {
+  if (key.code != forms::kKeyDelete || key.shift != forms::kCtrl) return;
+  const auto& items = combo.items();
+  const auto entry = std::find(items.begin(), items.end(), combo.text());
+  if (entry != items.end()) {
+    mdlSupport::DeleteRegValue(0, DoublesPatternKey, combo.text());
+    combo.Remove(static_cast<int>(entry - items.begin()));
+  }
+  key.code = 0;
 }
 
 }  // namespace mdlMain

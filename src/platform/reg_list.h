@@ -30,4 +30,8 @@ void LoadPatternCombo(forms::ComboBox& combo, std::uint32_t hKey, const Text& pa
 // Saves a combo box's text, then its entries, so that the text in use comes first at the next load.
 void SavePatternCombo(const forms::ComboBox& combo, std::uint32_t hKey, const Text& path);
 
+// Ctrl+Delete takes the pattern that a combo box shows off its list and off the shared list, where
+// it stands exactly so. Other keys are left alone.
+void RemovePatternByKey(forms::ComboBox& combo, forms::Key& key);
+
 }  // namespace orvik::mdlMain

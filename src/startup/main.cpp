@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <iterator>
 
+#include "cleaning/frm_empty_folders.h"
+#include "cleaning/frm_eraser.h"
 #include "copying/frm_main.h"
+#include "filebase/frm_file_base.h"
 #include "fileengine/checksums.h"
 #include "fileengine/frm_file_crc.h"
 #include "fileengine/paths.h"
@@ -32,6 +35,7 @@ void Show() {
 }
 
 constexpr Switch kSwitches[] = {
+    {u"/EFD ", Show<frmEmptyFolders>},
     {u"/CRC ", Show<frmCRC>},
     {u"/CPR ",
      [] {
@@ -45,6 +49,13 @@ constexpr Switch kSwitches[] = {
      }},
     {u"/FCR ", Show<frmFileCRC>},
     {u"/CRL ", Show<frmCreateFileList>},
+    {u"/TOB ", Show<frmFileBase>},
+    {u"/FLE ",
+     [] {
+       EraseOneFile = kTrue;
+       Show<frmEraser>();
+     }},
+    {u"/DRE ", Show<frmEraser>},
     {u"/SYF ", [] { RunCopyScript(CommandArgs); }},
     {u"/SCH ", Show<frmMain>},
 };
