@@ -14,6 +14,7 @@
 #include "forms/win32/progress_bar_view.h"
 #include "forms/win32/text_box_view.h"
 #include "forms/win32/timer_view.h"
+#include "forms/win32/up_down_view.h"
 
 namespace orvik::forms::win32 {
 
@@ -49,6 +50,8 @@ std::unique_ptr<Adapter> MakeView(Control& control, FormWindow& form) {
       return Make<ProgressBarView, ProgressBar>(control, form);
     case Kind::kTimer:
       return Make<TimerView, Timer>(control, form);
+    case Kind::kUpDown:
+      return Make<UpDownView, UpDown>(control, form);
     case Kind::kPicture:
       return Make<PictureView, Picture>(control, form);
     case Kind::kLine:
@@ -58,7 +61,6 @@ std::unique_ptr<Adapter> MakeView(Control& control, FormWindow& form) {
     case Kind::kListView:
     case Kind::kTreeView:
     case Kind::kStatusBar:
-    case Kind::kUpDown:
     // Has no window of its own.
     case Kind::kCommonDialog:
       break;
