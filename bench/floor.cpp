@@ -171,6 +171,8 @@ int main(int argc, char** argv) {
                                 .folder = nullptr});
   } else if (is("read", 2)) {
     files = ReadAll(arguments[1]);
+  } else if (is("read", 3)) {
+    files = ReadAll(arguments[1]) + ReadAll(arguments[2]);
   } else if (is("copy", 3)) {
     files = Copy(arguments[1], arguments[2]);
   } else if (is("compare", 3)) {

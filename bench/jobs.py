@@ -70,6 +70,39 @@ def title(copied: int, errors: int = 0) -> Callable[[bytes, int], None]:
     return check
 
 
+def lines(path: Path, expected: int) -> Callable[[bytes, int], None]:
+    """The file has this number of lines."""
+
+    def check(_output: bytes, _run: int) -> None:
+        found = path.read_bytes().count(b"\n")
+        if found != expected:
+            raise WrongResult(f"{expected} lines expected in {path}, found {found}")
+
+    return check
+
+
+def status_bar(text: str) -> Callable[[bytes, int], None]:
+    """The comparison ended with this text below its rows."""
+
+    def check(output: bytes, _run: int) -> None:
+        texts = [event["controls"]["sbMain"]["text"] for event in map(json.loads, output.splitlines())
+                 if event["event"] == "dump"]
+        if texts != [text]:
+            raise WrongResult(f"{text!r} expected, got {texts}")
+
+    return check
+
+
+def shows(form: str) -> Callable[[bytes, int], None]:
+    """The form came up, which it does when its work is done."""
+
+    def check(output: bytes, _run: int) -> None:
+        if f'{{"event":"show","form":"{form}"}}'.encode() not in output.splitlines():
+            raise WrongResult(f"no {form} in {output[-400:]!r}")
+
+    return check
+
+
 class Jobs:
     """Builds the jobs over sample files in a scratch folder. Nothing made there is removed before
     the last run: making many files right after removing as many is far slower on some systems."""
@@ -90,6 +123,9 @@ class Jobs:
             "walk": self.walk,
             "copy": self.first_copy,
             "update": self.update,
+            "list": self.file_list,
+            "folders": self.compare_folders,
+            "lists": self.compare_lists,
         }
 
     def small(self) -> tuple[Path, int]:
@@ -185,3 +221,52 @@ class Jobs:
             *(Contestant(name, lambda n, command=command: command)
               for name, command in peers.items()),
         ], notes=["`cp -au` and `rsync -a` go by dates and read no file."])
+
+    def form_job(self, line: str, script: str, drives: dict[str, Path]) -> list[str]:
+        """A job of the product behind a script; each has a script and a registry of its own."""
+        base = self.scratch / f"job {line[1:4]}"
+        base.with_suffix(".txt").write_text(script)
+        mapped = [part for letter, folder in drives.items()
+                  for part in ("--drive", f"{letter}={folder}")]
+        return [str(self.headless), "--script", str(base.with_suffix(".txt")),
+                "--registry", str(base.with_suffix(".reg")), *mapped, line]
+
+    def file_list(self) -> list[Job]:
+        tree, files = self.small()
+        command = self.form_job("/CRL S:\\", 'answer file "T:\\\\list.qlx"\n',
+                                {"S": tree, "T": self.scratch})
+        return [Job(f"file list, {files} small files", [
+            Contestant(ORVIK, lambda n: command, lines(self.scratch / "list.qlx", files)),
+            Contestant(FLOOR, lambda n: self.floor("sample", tree), counts(files)),
+            Contestant("hashdeep", lambda n: ["hashdeep", "-r", str(tree)]),
+            Contestant("rhash --crc32", lambda n: ["rhash", "--crc32", "-r", str(tree)]),
+            Contestant("find, xxhsum",
+                       lambda n: ["find", str(tree), "-type", "f", "-exec", "xxhsum", "{}", "+"]),
+        ], notes=["The peers read whole files, Orvik a kilobyte of each."])]
+
+    def compare_folders(self) -> list[Job]:
+        tree, files = self.small()
+        copy = tree.with_name("small to compare")
+        subprocess.run(["cp", "-a", tree, copy], check=True)
+        command = self.form_job("/CPR S:\\", 'answer browse "T:\\\\"\ndump\n', {"S": tree, "T": copy})
+        return [Job(f"two folders compared, {files} small files each", [
+            Contestant(ORVIK, lambda n: command, status_bar(f"Обработано {2 * files} файлов")),
+            Contestant(FLOOR, lambda n: self.floor("compare", tree, copy), counts(files)),
+            Contestant("diff -rq", lambda n: ["diff", "-rq", str(tree), str(copy)]),
+            Contestant("rsync -nac", lambda n: ["rsync", "-nac", f"{tree}/", str(copy)]),
+        ])]
+
+    def compare_lists(self) -> list[Job]:
+        count = max(10, round(300_000 * self.scale))
+        lists = [self.scratch / "first.qlx", self.scratch / "second.qlx"]
+        for path in lists:
+            sample_tree.make_list(path, count)
+        command = self.form_job("/CML T:\\first.qlx", 'answer file "T:\\\\second.qlx"\n',
+                                {"T": self.scratch})
+        names = [str(path) for path in lists]
+        return [Job(f"two lists compared, {count} lines each", [
+            Contestant(ORVIK, lambda n: command, shows("frmCRC")),
+            Contestant(FLOOR, lambda n: self.floor("read", *lists), counts(2)),
+            Contestant("diff", lambda n: ["diff", *names]),
+            Contestant("comm", lambda n: ["comm", "-12", "--nocheck-order", *names]),
+        ], notes=["The peers compare line by line in one order, Orvik by names in any."])]

@@ -95,6 +95,15 @@ def make_texts(root: Path, scale: float = 1.0) -> dict[str, Path]:
     return made
 
 
+def make_list(path: Path, lines: int) -> None:
+    """A file list as the program writes it, of files with names of their own."""
+    rng = random.Random(19690720)
+    with open(path, "w", encoding="cp1251", newline="") as file:
+        for index in range(lines):
+            name = f"{words(index)[index % 10]} {index:06}.dat"
+            file.write(f"D:\\{words(index)[index // 100 % 10]}\\{name};{rng.randint(-2**31, 2**31 - 1)}\r\n")
+
+
 def main() -> None:
     parser = argparse.ArgumentParser(description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)

@@ -12,7 +12,8 @@ namespace orvik {
 using mdlMain::CommandArgs;
 using mdlSupport::ShortenPath;
 
-frmCRC::frmCRC() : Form("frmCRC", u"Контрольные суммы", 9105, 5925, Place::kSystem) {
+frmCRC::frmCRC() : Form("frmCRC", u"Контрольные суммы", 9600, 5925, Place::kSystem) {
+  MakeSizable();
   lvMain.on_click = [this] { ShowLength(); };
   lvMain.on_key_down = [this](forms::Key& key) { SelectDefaultRows(key); };
 }

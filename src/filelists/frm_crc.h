@@ -16,8 +16,8 @@ class frmCRC : public forms::Form {
   frmCRC();
 
   forms::ListView lvMain{
-      *this, "lvMain", {0, 0, 9000, 5000}, {{u"Файл", 4500}, {u"CRC (Fast method)", 2300}}};
-  forms::StatusBar sbMain{*this, "sbMain", {0, 5000, 9000, 345}};
+      *this, "lvMain", {0, 0, 9495, 5100}, {{u"Файл", 5000}, {u"CRC (Fast method)", 2000}}};
+  forms::StatusBar sbMain{*this, "sbMain", {0, 5100, 9495, 345}};
   forms::CommonDialog cdMain{*this, "cdMain"};
 
   // Lists the checksums of the files of CommandArgs.

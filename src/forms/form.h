@@ -39,6 +39,9 @@ class Form {
   bool topmost() const { return topmost_; }
   void SetTopmost(bool topmost);
   Place place() const { return place_; }
+  // A form that lays itself out anew at every size: the user may drag it in both directions.
+  bool sizable() const { return sizable_; }
+  void MakeSizable() { sizable_ = true; }
   bool loaded() const { return state_ == State::kLoading || state_ == State::kLoaded; }
   bool unloaded() const { return state_ == State::kUnloaded; }
 
@@ -83,6 +86,7 @@ class Form {
   const Place place_;
   bool visible_ = false;
   bool topmost_ = false;
+  bool sizable_ = false;
   State state_ = State::kNew;
   std::unique_ptr<View> view_;
 };

@@ -89,13 +89,18 @@ void ListView::UserClick(int position) {
 }
 
 void ListView::UserSelect(const std::vector<int>& positions) {
+  UserSelect(positions, positions.empty() ? 0 : positions.back());
+}
+
+void ListView::UserSelect(const std::vector<int>& positions, int current) {
   for (int position : positions) Existing(position);
+  if (current != 0) Existing(current);
   std::vector<bool> chosen(rows_.size() + 1);
   for (int position : positions) chosen[static_cast<std::size_t>(position)] = true;
   for (int position = 1; position <= count(); ++position) {
     SetSelected(position, chosen[static_cast<std::size_t>(position)]);
   }
-  current_ = positions.empty() ? 0 : positions.back();
+  current_ = current;
 }
 
 }  // namespace orvik::forms

@@ -60,8 +60,10 @@ class ListView : public Control {
   using Control::UserClick;
   // The row becomes the selection; mouse down, up and click follow.
   void UserClick(int position);
-  // These rows become the selection.
+  // These rows become the selection, and the last of them the current one.
   void UserSelect(const std::vector<int>& positions);
+  // The same with another current row, selected or not; 0 for none.
+  void UserSelect(const std::vector<int>& positions, int current);
   // The row that was clicked or chosen last, 0 for none.
   int current() const { return current_; }
 

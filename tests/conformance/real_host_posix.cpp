@@ -36,7 +36,7 @@ struct RealHost::System {
   explicit System(const std::string& temporary) : folder(temporary), host(OptionsFor(temporary)) {}
 
   std::string PathOf(TextView name) const {
-    std::string path = folder + "/area/" + ToUtf8(name);
+    std::string path = folder + "/scratch/" + ToUtf8(name);
     std::replace(path.begin(), path.end(), '\\', '/');
     return path;
   }
@@ -46,8 +46,8 @@ struct RealHost::System {
 };
 
 RealHost::RealHost()
-    : system_(std::make_unique<System>(MakeTemporaryFolder())), scratch_(u"T:\\work") {
-  ::mkdir((system_->folder + "/work").c_str(), 0777);
+    : system_(std::make_unique<System>(MakeTemporaryFolder())), scratch_(u"T:\\scratch") {
+  ::mkdir((system_->folder + "/scratch").c_str(), 0777);
   // The trash must be the test's own, too.
   ::setenv("XDG_DATA_HOME", (system_->folder + "/data").c_str(), 1);
 }

@@ -59,6 +59,12 @@ void Dialogs::Press(HWND dialog, int button) {
 }
 
 bool Dialogs::AnswerMessage(HWND box) {
+  // What a file dialog asks by itself, such as whether a file may be replaced, is between the
+  // system and the user.
+  if (const HWND owner = GetWindow(box, GW_OWNER); owner != nullptr && IsFileDialog(owner)) {
+    Press(box, GetDlgItem(box, IDYES) != nullptr ? IDYES : IDOK);
+    return true;
+  }
   const std::optional<MessageBoxFacts> facts = ReadMessageBox(box);
   if (!facts) return false;
   const forms::Answer answer = answers_.ToMessage(

@@ -20,6 +20,13 @@ struct Subject {
   HWND window;
 };
 
+int Twips(int pixels, HWND window) {
+  const HDC context = GetDC(window);
+  const int dpi = GetDeviceCaps(context, LOGPIXELSX);
+  ReleaseDC(window, context);
+  return MulDiv(pixels, kTwipsPerInch, dpi);
+}
+
 void WriteState(JsonWriter& json, HWND control) {
   json.Name("visible").Bool(IsShown(control));
   json.Name("enabled").Bool((StyleOf(control) & WS_DISABLED) == 0);
@@ -66,6 +73,23 @@ void WriteListBox(JsonWriter& json, const Subject& control) {
   if (list.has_boxes) WritePositions(json, "checked", list.checked);
 }
 
+void WriteListView(JsonWriter& json, const Subject& control) {
+  const ReportState report = ReadReport(control.process, control.window);
+  WriteState(json, control.window);
+  json.Name("columns").BeginArray();
+  for (const ReportState::Column& column : report.columns) {
+    json.BeginObject().Name("text").String(TextView(column.text));
+    json.Name("width").Number(Twips(column.width, control.window)).EndObject();
+  }
+  json.EndArray().Name("rows").BeginArray();
+  for (const ReportState::Row& row : report.rows) {
+    json.BeginObject().Name("text").String(TextView(row.text)).Name("sub").BeginArray();
+    for (const Text& text : row.sub) json.String(TextView(text));
+    json.EndArray().Name("selected").Bool(row.selected).EndObject();
+  }
+  json.EndArray();
+}
+
 void WriteProgressBar(JsonWriter& json, const Subject& control) {
   WriteState(json, control.window);
   json.Name("max").Number(SendMessageW(control.window, PBM_GETRANGE, FALSE, 0));
@@ -101,7 +125,7 @@ void WriteMembers(JsonWriter& json, const Subject& control) {
     case Kind::kListBox:
       return WriteKind(json, "ListBox", control, WriteListBox);
     case Kind::kListView:
-      return WriteKind(json, "ListView", control, plain);
+      return WriteKind(json, "ListView", control, WriteListView);
     case Kind::kTreeView:
       return WriteKind(json, "TreeView", control, plain);
     case Kind::kProgressBar:
@@ -120,13 +144,6 @@ void WriteMembers(JsonWriter& json, const Subject& control) {
     case Kind::kCommonDialog:
       return;
   }
-}
-
-int Twips(int pixels, HWND window) {
-  const HDC context = GetDC(window);
-  const int dpi = GetDeviceCaps(context, LOGPIXELSX);
-  ReleaseDC(window, context);
-  return MulDiv(pixels, kTwipsPerInch, dpi);
 }
 
 }  // namespace

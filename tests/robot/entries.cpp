@@ -75,10 +75,13 @@ void SetRowState(const Found& list, int position, UINT state, UINT mask) {
   SendStructure(list.process, list.window, LVM_SETITEMSTATE, static_cast<WPARAM>(position), item);
 }
 
+// The position that a script gives to the first entry.
+int FirstPosition(const Found& control) { return control.kind == forms::Kind::kListView ? 1 : 0; }
+
 void SelectRows(const Found& list, const std::vector<int>& positions) {
   constexpr UINT kBoth = LVIS_SELECTED | LVIS_FOCUSED;
   SetRowState(list, -1, 0, LVIS_SELECTED);
-  for (int position : positions) SetRowState(list, position, kBoth, kBoth);
+  for (int position : positions) SetRowState(list, position - FirstPosition(list), kBoth, kBoth);
 }
 
 void SelectInListBox(const Found& list, const std::vector<int>& positions) {
@@ -103,6 +106,7 @@ void SelectInListBox(const Found& list, const std::vector<int>& positions) {
 
 std::optional<int> EntryCount(const Found& control) {
   switch (control.kind) {
+    case forms::Kind::kListView:
     case forms::Kind::kListBox:
       return Ask(control.window, IsListView(control.window) ? LVM_GETITEMCOUNT : LB_GETCOUNT);
     case forms::Kind::kComboBox:
@@ -115,13 +119,14 @@ std::optional<int> EntryCount(const Found& control) {
 void Require(const Found& control, int position) {
   const auto count = EntryCount(control);
   if (!count) throw Refused{control.name + " has no entries"};
-  if (position < *count) return;
+  const int first = FirstPosition(control);
+  if (position >= first && position - first < *count) return;
   throw Refused{control.name + " has no entry " + std::to_string(position)};
 }
 
 POINT PointOfEntry(const Found& list, int position, Spot spot) {
   Require(list, position);
-  return IsListView(list.window) ? PointInListView(list, position, spot)
+  return IsListView(list.window) ? PointInListView(list, position - FirstPosition(list), spot)
                                  : PointInListBox(list.window, position);
 }
 

@@ -18,7 +18,8 @@ struct Found {
   std::string name;  // without its form
 };
 
-// How many entries the control has; nothing for a control without entries.
+// How many entries the control has; nothing for a control without entries. Positions here are those
+// of scripts: in a list view they count from 1.
 std::optional<int> EntryCount(const Found& control);
 // Throws Refused when the control has no entry at a position.
 void Require(const Found& control, int position);

@@ -23,10 +23,25 @@ Text EntryText(HWND window, int position, UINT length_message, UINT text_message
   return text;
 }
 
-// Reads cells of list views by way of one piece of the other process's memory.
+// Reads cells and heads of list views by way of one piece of the other process's memory.
 class CellReader {
  public:
-  explicit CellReader(HANDLE process) : remote_(process, sizeof(LVITEMW) + kRoom) {}
+  explicit CellReader(HANDLE process)
+      : remote_(process, std::max(sizeof(LVITEMW), sizeof(LVCOLUMNW)) + kRoom) {}
+
+  ReportState::Column ReadColumn(HWND list_view, int number) const {
+    LVCOLUMNW column{};
+    column.mask = LVCF_TEXT | LVCF_WIDTH;
+    column.pszText = reinterpret_cast<wchar_t*>(remote_.address(sizeof column));
+    column.cchTextMax = kLongestCell;
+    remote_.Write(&column, sizeof column);
+    Ask(list_view, LVM_GETCOLUMNW, number, remote_.address());
+    Text text(static_cast<std::size_t>(kLongestCell), u'\0');
+    remote_.Read(text.data(), kRoom, sizeof column);
+    remote_.Read(&column, sizeof column);
+    text.resize(std::min(text.find(u'\0'), text.size()));
+    return {text, column.cx};
+  }
 
   Text Read(HWND list_view, int row, int column) const {
     LVITEMW item{};
@@ -50,6 +65,23 @@ class CellReader {
 };
 
 }  // namespace
+
+ReportState ReadReport(HANDLE process, HWND list) {
+  ReportState state;
+  const CellReader cells(process);
+  const auto head = reinterpret_cast<HWND>(SendMessageW(list, LVM_GETHEADER, 0, 0));
+  const int columns = Ask(head, HDM_GETITEMCOUNT);
+  for (int i = 0; i < columns; ++i) state.columns.push_back(cells.ReadColumn(list, i));
+  const int count = Ask(list, LVM_GETITEMCOUNT);
+  for (int position = 0; position < count; ++position) {
+    ReportState::Row row{cells.Read(list, position, 0), {}, false};
+    for (int i = 1; i < columns; ++i) row.sub.push_back(cells.Read(list, position, i));
+    while (!row.sub.empty() && row.sub.back().empty()) row.sub.pop_back();
+    row.selected = Ask(list, LVM_GETITEMSTATE, position, LVIS_SELECTED) != 0;
+    state.rows.push_back(std::move(row));
+  }
+  return state;
+}
 
 ListState ReadListBox(HWND list) {
   ListState state;

@@ -16,6 +16,24 @@ struct ListState {
   std::vector<int> checked;
 };
 
+// What a report of rows with columns holds.
+struct ReportState {
+  struct Column {
+    Text text;
+    int width;  // pixels
+  };
+  struct Row {
+    Text text;
+    std::vector<Text> sub;  // as far as the cells behind the first aren't all empty
+    bool selected;
+  };
+  std::vector<Column> columns;
+  std::vector<Row> rows;
+};
+
+// A list view with a head. `process` is the one that owns it.
+ReportState ReadReport(HANDLE process, HWND list);
+
 // A plain list box.
 ListState ReadListBox(HWND list);
 // A list view of one column in its place, with or without boxes. `process` is the one that owns it.

@@ -3,6 +3,9 @@
 The robot looks at the windows of the program from another process. A transcript of the headless
 program becomes comparable with the robot's by leaving out what has no window, and nothing else:
 
+- keys and colours of rows, which their window doesn't tell;
+- sub-items that no column shows, and empty ones at a row's end, which look like none;
+- parts of a pixel of a column's width;
 - controls of the kinds Timer and CommonDialog in a dump;
 - programs started and processes ended, the events "start" and "kill";
 - why the process ended by itself: "shutdown", "closed" and "returned" are all "ended";
@@ -14,9 +17,29 @@ UNSEEN_EVENTS = {"start", "kill"}
 OWN_ENDS = {"shutdown", "closed", "returned"}
 
 
+def _seen_width(twips):
+    """As the screen of the robot has it, with 96 dots to the inch."""
+    return max(0, (twips * 96 + 720) // 1440 * 15)
+
+
+def _seen_row(row, shown):
+    sub = row["sub"][:shown]
+    while sub and not sub[-1]:
+        del sub[-1]
+    return {"text": row["text"], "sub": sub, "selected": row["selected"]}
+
+
+def _seen_control(control):
+    if control["kind"] != "ListView":
+        return control
+    columns = [{**column, "width": _seen_width(column["width"])} for column in control["columns"]]
+    rows = [_seen_row(row, len(columns) - 1) for row in control["rows"]]
+    return {**control, "columns": columns, "rows": rows}
+
+
 def _seen_dump(event):
     controls = {
-        name: control
+        name: _seen_control(control)
         for name, control in event["controls"].items()
         if control["kind"] not in WINDOWLESS_KINDS
     }

@@ -26,6 +26,24 @@ class FromOutside(unittest.TestCase):
         self.assertEqual(seen[0]["caption"], "d")
         self.assertEqual(len(dump["controls"]), 3)
 
+    def test_of_a_list_view_what_its_window_shows(self):
+        def row(text, sub):
+            return {"text": text, "key": "k", "color": 255, "sub": sub, "selected": True}
+
+        def seen_row(text, sub):
+            return {"text": text, "sub": sub, "selected": True}
+
+        view = {"kind": "ListView", "visible": True, "enabled": True,
+                "columns": [{"text": "a", "width": 2000}, {"text": "b", "width": -10},
+                            {"text": "c", "width": 4500}],
+                "rows": [row("1", ["x", "y", "z"]), row("2", ["", "y"]), row("3", ["", ""])]}
+        seen = from_outside([{"event": "dump", "controls": {"lvMain": view}}])
+        self.assertEqual(seen[0]["controls"]["lvMain"], {
+            "kind": "ListView", "visible": True, "enabled": True,
+            "columns": [{"text": "a", "width": 1995}, {"text": "b", "width": 0},
+                        {"text": "c", "width": 4500}],
+            "rows": [seen_row("1", ["x", "y"]), seen_row("2", ["", "y"]), seen_row("3", [])]})
+
     def test_other_processes_are_not_seen(self):
         start = {"event": "start", "command": "notepad", "window": 1}
         kill = {"event": "kill", "process": "punto.exe"}

@@ -36,6 +36,8 @@ class FormLayout : public WindowsTest {
   FormLayout() {
     form_.Show();
     Pump();
+    EXPECT_EQ(form_.resizes, 1) << "the first showing";
+    form_.resizes = 0;
   }
   RECT Area(const Control& control) {
     RECT area;

@@ -2,7 +2,9 @@
 
 #include <span>
 
+#include "forms/common_dialog.h"
 #include "forms/list_controls.h"
+#include "forms/list_view.h"
 #include "forms/simple_controls.h"
 
 namespace orvik::forms::headless {
@@ -33,6 +35,37 @@ void WritePositions(JsonWriter& json, const ListBox& list, bool (ListBox::*has)(
   json.BeginArray();
   for (int i = 0; i < list.count(); ++i) {
     if ((list.*has)(i)) json.Number(i);
+  }
+  json.EndArray();
+}
+
+void WriteColumns(JsonWriter& json, const ListView& list) {
+  json.BeginArray();
+  for (const ListView::Column& column : list.columns()) {
+    json.BeginObject().Name("text").String(TextView(column.text));
+    json.Name("width").Number(column.width).EndObject();
+  }
+  json.EndArray();
+}
+
+void WriteRows(JsonWriter& json, const ListView& list) {
+  json.BeginArray();
+  for (int position = 1; position <= list.count(); ++position) {
+    const ListView::Row& row = list.At(position);
+    json.BeginObject().Name("text").String(TextView(row.text));
+    json.Name("key").String(TextView(row.key));
+    json.Name("color").Number(row.color);
+    WriteSubItems(json.Name("sub"), row);
+    json.Name("selected").Bool(row.selected).EndObject();
+  }
+  json.EndArray();
+}
+
+// The positions of the selected rows: what changes of the selection are told by.
+void WriteSelectedRows(JsonWriter& json, const ListView& list) {
+  json.BeginArray();
+  for (int position = 1; position <= list.count(); ++position) {
+    if (list.At(position).selected) json.Number(position);
   }
   json.EndArray();
 }
@@ -79,6 +112,12 @@ constexpr Member kListBoxWithBoxes[] = {
      }}};
 constexpr std::span<const Member> kListBox = std::span(kListBoxWithBoxes).first(5);
 
+constexpr Member kListView[] = {
+    kVisible,
+    kEnabled,
+    {"columns", [](JsonWriter& json, const Control& c) { WriteColumns(json, As<ListView>(c)); }},
+    {"rows", [](JsonWriter& json, const Control& c) { WriteRows(json, As<ListView>(c)); }}};
+
 constexpr Member kProgressBar[] = {
     kVisible,
     kEnabled,
@@ -93,6 +132,13 @@ constexpr Member kStatusBar[] = {
 constexpr Member kTimer[] = {
     {"interval", [](JsonWriter& json, const Control& c) { json.Number(As<Timer>(c).interval()); }},
     {"active", [](JsonWriter& json, const Control& c) { json.Bool(As<Timer>(c).active()); }}};
+
+constexpr Member kCommonDialog[] = {
+    {"filter", [](JsonWriter& json,
+                  const Control& c) { json.String(TextView(As<CommonDialog>(c).filter())); }},
+    {"filename", [](JsonWriter& json, const Control& c) {
+       json.String(TextView(As<CommonDialog>(c).filename()));
+     }}};
 
 constexpr Member kPlain[] = {kVisible, kEnabled};
 constexpr Member kLine[] = {kVisible};
@@ -122,7 +168,7 @@ KindInDump Describe(const Control& control) {
     case Kind::kListBox:
       return {"ListBox", As<ListBox>(control).has_boxes() ? kListBoxWithBoxes : kListBox};
     case Kind::kListView:
-      return {"ListView", kPlain};
+      return {"ListView", kListView};
     case Kind::kTreeView:
       return {"TreeView", kPlain};
     case Kind::kProgressBar:
@@ -132,7 +178,7 @@ KindInDump Describe(const Control& control) {
     case Kind::kTimer:
       return {"Timer", kTimer};
     case Kind::kCommonDialog:
-      return {"CommonDialog", {}};
+      return {"CommonDialog", kCommonDialog};
     case Kind::kPicture:
       return {"Picture", kPlain};
     case Kind::kUpDown:
@@ -152,6 +198,12 @@ void WriteControl(JsonWriter& json, const Control& control) {
 
 }  // namespace
 
+void WriteSubItems(JsonWriter& json, const ListView::Row& row) {
+  json.BeginArray();
+  for (const ListView::SubItem& item : row.sub) json.String(TextView(item.text));
+  json.EndArray();
+}
+
 void WriteForm(JsonWriter& json, const Form& form) {
   json.Name("form").String(form.name());
   json.Name("caption").String(TextView(form.caption()));
@@ -167,6 +219,11 @@ void WriteForm(JsonWriter& json, const Form& form) {
 }
 
 bool WriteMember(JsonWriter& json, const Control& control, std::string_view name) {
+  if (control.kind() == Kind::kListView && name == "selected") {
+    // A dump has this with each row.
+    WriteSelectedRows(json, As<ListView>(control));
+    return true;
+  }
   const KindInDump kind = Describe(control);
   for (const Member& member : kind.members) {
     if (member.name != name) continue;

@@ -2,6 +2,7 @@
 
 #include "forms/headless/dump.h"
 #include "forms/list_controls.h"
+#include "forms/list_view.h"
 
 namespace orvik::forms::headless {
 
@@ -49,10 +50,18 @@ std::string_view MemberOf(Property property) {
 
 // What an entry shows, by the kind of its control.
 const Text& TextAt(const Control& control, int position) {
-  if (control.kind() == Kind::kComboBox) {
-    return static_cast<const ComboBox&>(control).Item(position);
+  switch (control.kind()) {
+    case Kind::kComboBox:
+      return static_cast<const ComboBox&>(control).Item(position);
+    case Kind::kListView:
+      return static_cast<const ListView&>(control).At(position).text;
+    default:
+      return static_cast<const ListBox&>(control).Item(position);
   }
-  return static_cast<const ListBox&>(control).Item(position);
+}
+
+const ListView::Row& RowAt(const Control& control, int position) {
+  return static_cast<const ListView&>(control).At(position);
 }
 
 }  // namespace
@@ -106,6 +115,12 @@ void Tracer::Changed(const Control& control, Change change) {
       break;
     case Property::kItem:
       Begin(form, control.name(), at("item")).String(TextView(TextAt(control, change.position)));
+      break;
+    case Property::kSub:
+      WriteSubItems(Begin(form, control.name(), at("sub")), RowAt(control, change.position));
+      break;
+    case Property::kColor:
+      Begin(form, control.name(), at("color")).Number(RowAt(control, change.position).color);
       break;
     case Property::kChecked:
       Begin(form, control.name(), at("checked"))

@@ -4,6 +4,7 @@
 
 #include "forms/form.h"
 #include "forms/list_controls.h"
+#include "forms/list_view.h"
 #include "forms/simple_controls.h"
 
 namespace orvik::forms::headless {
@@ -59,6 +60,8 @@ std::optional<Entries> EntriesOf(const Control& control) {
       return Entries{0, static_cast<const ListBox&>(control).count()};
     case Kind::kComboBox:
       return Entries{0, static_cast<const ComboBox&>(control).count()};
+    case Kind::kListView:
+      return Entries{1, static_cast<const ListView&>(control).count()};
     default:
       return std::nullopt;
   }
@@ -83,6 +86,8 @@ std::string LacksOneOf(const Control& control, const std::vector<int>& positions
 void MakeCurrent(Control& control, int position) {
   if (control.kind() == Kind::kListBox) {
     static_cast<ListBox&>(control).UserSelect({position}, ListBox::Follow::kNothing);
+  } else if (control.kind() == Kind::kListView) {
+    static_cast<ListView&>(control).UserSelect({position});
   }
 }
 
@@ -91,6 +96,9 @@ std::string ClickEntry(Control& control, int position) {
   switch (control.kind()) {
     case Kind::kListBox:
       static_cast<ListBox&>(control).UserClick(position);
+      return {};
+    case Kind::kListView:
+      static_cast<ListView&>(control).UserClick(position);
       return {};
     case Kind::kComboBox:
       if (static_cast<ComboBox&>(control).locked()) return control.name() + " is locked";
@@ -185,6 +193,9 @@ std::string Do(const Select& event) {
       list.UserSelect(event.positions);
       return {};
     }
+    case Kind::kListView:
+      static_cast<ListView&>(*control).UserSelect(event.positions);
+      return {};
     case Kind::kComboBox:
       if (event.positions.size() != 1) return control->name() + " takes one entry";
       return ClickEntry(*control, event.positions[0]);

@@ -43,11 +43,22 @@ Text Zeroed(Text filter) {
   return filter + Text(2, u'\0');
 }
 
+// The ending that the first mask of a filter asks for, such as u"qlx" of u"Lists|*.qlx"; empty for
+// masks without one.
+Text EndingOf(const Text& filter) {
+  const std::size_t mask = filter.find(u'|');
+  if (mask == Text::npos) return {};
+  const Text first = filter.substr(mask + 1, filter.find_first_of(u"|;", mask + 1) - mask - 1);
+  if (!first.starts_with(u"*.")) return {};
+  const Text ending = first.substr(2);
+  return ending.find_first_of(u"*?") == Text::npos ? ending : Text();
+}
+
 }  // namespace
 
 Answer ShowMessage(HWND owner, const Text& text, const Text& title, Icon icon, Buttons buttons) {
-  // Without an owner it must come to the front by itself.
-  const UINT front = owner == nullptr ? MB_SETFOREGROUND : 0;
+  // Without an owner in sight it must come to the front by itself.
+  const UINT front = owner == nullptr || IsWindowVisible(owner) == 0 ? MB_SETFOREGROUND : 0;
   switch (MessageBoxW(owner, Wide(text), Wide(title), StyleOf(icon) | StyleOf(buttons) | front)) {
     case IDYES:
       return Answer::kYes;
@@ -77,6 +88,7 @@ std::optional<Text> ShowFolderDialog(HWND owner, const Text& title) {
 
 std::optional<Text> ShowFileDialog(HWND owner, FileDialog dialog, const Text& filter) {
   const Text pieces = Zeroed(filter);
+  const Text ending = EndingOf(filter);
   std::array<wchar_t, 1024> name{};
   OPENFILENAMEW request{};
   request.lStructSize = sizeof request;
@@ -84,7 +96,9 @@ std::optional<Text> ShowFileDialog(HWND owner, FileDialog dialog, const Text& fi
   request.lpstrFilter = Wide(pieces);
   request.lpstrFile = name.data();
   request.nMaxFile = static_cast<DWORD>(name.size());
+  request.lpstrDefExt = ending.empty() ? nullptr : Wide(ending);
   request.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_ENABLESIZING;
+  request.Flags |= dialog == FileDialog::kOpen ? OFN_FILEMUSTEXIST : OFN_OVERWRITEPROMPT;
   const BOOL picked =
       dialog == FileDialog::kOpen ? GetOpenFileNameW(&request) : GetSaveFileNameW(&request);
   if (!picked) return std::nullopt;

@@ -16,10 +16,8 @@ bool Overlap(const Control& one, const Control& other) {
          b.left < a.left + a.width && a.top < b.top + b.height && b.top < a.top + a.height;
 }
 
-// The notional width of a form whose client area is so wide in pixels.
-int NotionalWidth(int client_width, const Metrics& metrics) {
-  return metrics.Twips(client_width) + kFrameWidth;
-}
+// How small the user may make a sizable form, of its size by design.
+constexpr int Smallest(int design) { return design * 2 / 3; }
 
 }  // namespace
 
@@ -78,6 +76,7 @@ void FormWindow::Resize() {
   RECT now;
   GetWindowRect(window_, &now);
   if (now.right - now.left == size.cx && now.bottom - now.top == size.cy) return;
+  if (IsZoomed(window_)) return;
   POINT corner{now.left, now.top};
   if (IsWindowVisible(window_)) Fit(corner, size);
   resizing_ = true;
@@ -87,11 +86,12 @@ void FormWindow::Resize() {
   if (widens_) PlaceAll();
 }
 
-void FormWindow::OnUserSize(int width) {
-  // Only the width is the user's.
-  const int notional = NotionalWidth(width, *metrics_);
-  if (notional == form_.width()) return;
-  desk_.Deliver([&] { form_.UserResize(notional, form_.height()); });
+void FormWindow::OnUserSize(SIZE client) {
+  const int width = metrics_->Twips(client.cx) + kFrameWidth;
+  // Of most forms only the width is the user's.
+  const int height = form_.sizable() ? metrics_->Twips(client.cy) + kFrameHeight : form_.height();
+  if (width == form_.width() && height == form_.height()) return;
+  desk_.Deliver([&] { form_.UserResize(width, height); });
   if (window_ != nullptr) PlaceAll();
 }
 
@@ -112,6 +112,12 @@ void FormWindow::OnResolution(int dpi, const RECT& suggested) {
 void FormWindow::LimitSize(MINMAXINFO& limits) const {
   if (!widens_) return;
   const SIZE size = Size();
+  if (form_.sizable()) {
+    limits.ptMinTrackSize = {
+        size.cx + metrics_->Pixels(Smallest(design_width_)) - metrics_->Pixels(form_.width()),
+        size.cy + metrics_->Pixels(Smallest(design_height_)) - metrics_->Pixels(form_.height())};
+    return;
+  }
   const int narrower = metrics_->Pixels(form_.width()) - metrics_->Pixels(design_width_);
   limits.ptMinTrackSize = {size.cx - std::max(0, narrower), size.cy};
   limits.ptMaxTrackSize.y = size.cy;
@@ -119,6 +125,7 @@ void FormWindow::LimitSize(MINMAXINFO& limits) const {
 
 LRESULT FormWindow::HitTest(WPARAM wparam, LPARAM lparam) const {
   const LRESULT hit = DefWindowProcW(window_, WM_NCHITTEST, wparam, lparam);
+  if (form_.sizable()) return hit;
   switch (hit) {
     // The height is the program's.
     case HTTOP:

@@ -49,8 +49,9 @@ FormWindow::FormWindow(Form& form, Desk& desk)
     : form_(form),
       desk_(desk),
       design_width_(form.width()),
-      widens_(AnyAnchored(form)),
-      style_(widens_ ? kStyle | WS_THICKFRAME : kStyle),
+      design_height_(form.height()),
+      widens_(form.sizable() || AnyAnchored(form)),
+      style_(kStyle | (widens_ ? WS_THICKFRAME : 0U) | (form.sizable() ? WS_MAXIMIZEBOX : 0U)),
       metrics_(std::make_unique<Metrics>(DpiOf(PresentMonitor()))) {
   desk_.Enter(*this);
   MakeWindow();
@@ -88,7 +89,12 @@ void FormWindow::Close() {
 }
 
 void FormWindow::Show() {
-  if (form_.place() == Form::Place::kCentre) Centre();
+  if (form_.place() == Form::Place::kCentre) {
+    Centre();
+  } else {
+    // The system may have chosen a monitor of another resolution.
+    Resize();
+  }
   desk_.refresher().Flush();
   ShowWindow(window_, SW_SHOWNORMAL);
   SetForegroundWindow(window_);
@@ -187,7 +193,7 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       if (LOWORD(wparam) == WA_INACTIVE) last_focus_ = Focused();
       break;
     case WM_SIZE:
-      if (wparam != SIZE_MINIMIZED && !resizing_) OnUserSize(LOWORD(lparam));
+      if (wparam != SIZE_MINIMIZED && !resizing_) OnUserSize({LOWORD(lparam), HIWORD(lparam)});
       return 0;
     case WM_GETMINMAXINFO:
       if (metrics_ != nullptr) LimitSize(*reinterpret_cast<MINMAXINFO*>(lparam));

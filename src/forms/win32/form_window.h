@@ -65,7 +65,7 @@ class FormWindow : public View, public Shown {
   void MakeWindow();
   void PlaceAll();
   void Resize();
-  void OnUserSize(int width);
+  void OnUserSize(SIZE client);
   void OnResolution(int dpi, const RECT& suggested);
   void OnTimer(UINT_PTR id) const;
   void LimitSize(MINMAXINFO& limits) const;
@@ -80,7 +80,9 @@ class FormWindow : public View, public Shown {
   Form& form_;
   Desk& desk_;
   const int design_width_;
-  // True for a form with controls that follow its width: the user may widen it.
+  const int design_height_;
+  // True for a form that the user may widen, since it is sizable or has controls that follow its
+  // width.
   const bool widens_;
   const DWORD style_;
   std::unique_ptr<Metrics> metrics_;

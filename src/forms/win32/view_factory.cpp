@@ -10,8 +10,10 @@
 #include "forms/win32/label_view.h"
 #include "forms/win32/line_view.h"
 #include "forms/win32/list_box_view.h"
+#include "forms/win32/list_view_view.h"
 #include "forms/win32/picture_view.h"
 #include "forms/win32/progress_bar_view.h"
+#include "forms/win32/status_bar_view.h"
 #include "forms/win32/text_box_view.h"
 #include "forms/win32/timer_view.h"
 #include "forms/win32/up_down_view.h"
@@ -46,8 +48,12 @@ std::unique_ptr<Adapter> MakeView(Control& control, FormWindow& form) {
       return static_cast<ListBox&>(control).has_boxes()
                  ? Make<CheckListView, ListBox>(control, form)
                  : Make<ListBoxView, ListBox>(control, form);
+    case Kind::kListView:
+      return Make<ListViewView, ListView>(control, form);
     case Kind::kProgressBar:
       return Make<ProgressBarView, ProgressBar>(control, form);
+    case Kind::kStatusBar:
+      return Make<StatusBarView, StatusBar>(control, form);
     case Kind::kTimer:
       return Make<TimerView, Timer>(control, form);
     case Kind::kUpDown:
@@ -58,9 +64,7 @@ std::unique_ptr<Adapter> MakeView(Control& control, FormWindow& form) {
       return Make<LineView, Line>(control, form);
     // No form has these yet.
     case Kind::kMenu:
-    case Kind::kListView:
     case Kind::kTreeView:
-    case Kind::kStatusBar:
     // Has no window of its own.
     case Kind::kCommonDialog:
       break;

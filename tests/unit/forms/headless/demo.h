@@ -5,9 +5,11 @@
 #include <string>
 #include <vector>
 
+#include "forms/common_dialog.h"
 #include "forms/form.h"
 #include "forms/headless/run.h"
 #include "forms/list_controls.h"
+#include "forms/list_view.h"
 #include "forms/simple_controls.h"
 #include "unit/support/fake_host.h"
 
@@ -39,6 +41,8 @@ class frmDemo : public Form {
   Picture pbDest{*this, "pbDest", {0, 1000, 100, 100}, Picture::Image::kFolder};
   Line lnOne{*this, "lnOne", {0, 1100, 100, 0}, 0};
   DemoMenu mnItem{*this, "mnItem", u"Item", 0};
+  ListView lvMain{*this, "lvMain", {0, 1200, 100, 100}, {{u"Файл", 4500}, {u"CRC", 2300}}};
+  CommonDialog cdMain{*this, "cdMain"};
   Frame frLog{*this, "frLog", {0, 0, 6000, 4000}, u"Log"};
   Button btInside{*this, "btInside", {0, 0, 100, 100}, u"Inside"};
 

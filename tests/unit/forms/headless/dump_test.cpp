@@ -1,6 +1,6 @@
 #include "forms/headless/dump.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "forms/instance.h"
 #include "unit/forms/headless/demo.h"
@@ -9,14 +9,20 @@
 namespace orvik::forms::headless {
 namespace {
 
+using testing::HasSubstr;
+
 class DumpTest : public testing::Test {
  protected:
-  std::string Dumped(const char* name) {
+  std::string Form() {
     std::string out;
     JsonWriter json(out);
     json.BeginObject();
     WriteForm(json, form);
     json.EndObject();
+    return out;
+  }
+  std::string Dumped(const char* name) {
+    const std::string out = Form();
     // The piece of one control, up to the next.
     const std::string key = "\"" + std::string(name) + "\":{";
     const std::size_t at = out.find(key);
@@ -29,7 +35,7 @@ class DumpTest : public testing::Test {
 };
 
 TEST_F(DumpTest, AFormHasItsMembersInOrder) {
-  class frmBare : public Form {
+  class frmBare : public forms::Form {
    public:
     frmBare() : Form("frmBare", u"Голая \"форма\"", 1200, 3400) {}
     Line lnOne{*this, "lnOne", {}};
@@ -88,6 +94,34 @@ TEST_F(DumpTest, AListBoxHasMarksWhereItHasBoxes) {
   EXPECT_EQ(Dumped("lbBoxes"),
             R"({"kind":"ListBox","visible":true,"enabled":true,"items":["a","b","c"],)"
             R"("index":0,"selected":[0,2],"checked":[1]})");
+}
+
+TEST_F(DumpTest, AListViewHasColumnsAndRows) {
+  const std::string head =
+      R"({"kind":"ListView","visible":true,"enabled":true,)"
+      R"("columns":[{"text":"Файл","width":4500},{"text":"CRC","width":2300}],)";
+  EXPECT_THAT(Form(), HasSubstr(R"("lvMain":)" + head + R"("rows":[]})"));
+  form.lvMain.Add(u"C:\\а.txt", u"kа.txt");
+  form.lvMain.Add(u"b");
+  form.lvMain.AddSub(1, u"x1/0kb", u"s");
+  form.lvMain.AddSub(1, u"");
+  form.lvMain.SetColor(1, 255);
+  form.lvMain.SetSelected(2, true);
+  EXPECT_THAT(
+      Form(),
+      HasSubstr(R"("lvMain":)" + head +
+                R"("rows":[{"text":"C:\\а.txt","key":"kа.txt","color":255,"sub":["x1/0kb",""],)"
+                R"("selected":false},{"text":"b","key":"","color":2147483656,"sub":[],)"
+                R"("selected":true}]})"));
+}
+
+TEST_F(DumpTest, ACommonDialogHasItsFilterAndTheNameThatWasChosen) {
+  EXPECT_EQ(Dumped("cdMain"), R"({"kind":"CommonDialog","filter":"","filename":""})");
+  form.cdMain.SetFilter(u"Списки *.qlx|*.qlx");
+  front.file_answers.push_back(u"T:\\а.qlx");
+  form.cdMain.ShowSave();
+  EXPECT_EQ(Dumped("cdMain"),
+            R"({"kind":"CommonDialog","filter":"Списки *.qlx|*.qlx","filename":"T:\\а.qlx"})");
 }
 
 TEST_F(DumpTest, Numbers) {

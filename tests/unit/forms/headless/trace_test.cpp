@@ -100,6 +100,42 @@ TEST(Trace, EntriesNameTheirPosition) {
                           R"-("cbOut","property":"index","value":0})-"));
 }
 
+TEST(Trace, RowsNameTheirPosition) {
+  EXPECT_THAT(Changes([](frmDemo& form) {
+                form.lvMain.Add(u"a", u"ka");
+                form.lvMain.Add(u"b");
+                form.lvMain.AddSub(2, u"1");
+                form.lvMain.AddSub(2, u"2", u"d");
+                form.lvMain.SetColor(2, 32768);
+                form.lvMain.SetColor(2, 32768);
+                form.lvMain.UserSelect({2});
+                form.lvMain.SetColumnWidth(2, 10);
+                form.lvMain.Clear();
+              }),
+              ElementsAre(R"-("lvMain","property":"add","value":"a"})-",
+                          R"-("lvMain","property":"add","value":"b"})-",
+                          R"-("lvMain","property":"sub(2)","value":["1"]})-",
+                          R"-("lvMain","property":"sub(2)","value":["1","2"]})-",
+                          R"-("lvMain","property":"color(2)","value":32768})-",
+                          R"-("lvMain","property":"selected","value":[2]})-",
+                          R"-("lvMain","property":"columns","value":)-"
+                          R"-([{"text":"Файл","width":4500},{"text":"CRC","width":10}]})-",
+                          R"-("lvMain","property":"clear","value":null})-"));
+}
+
+TEST(Trace, ACommonDialogTellsItsFilterAndItsName) {
+  Demo demo;
+  demo.prepare = [](frmDemo& form) {
+    form.cdMain.SetFilter(u"a|b");
+    form.cdMain.ShowOpen();
+  };
+  const auto lines = demo.Run("answer file \"T:\\\\x.qlx\"", {"--trace"}).lines;
+  const std::string change = R"({"event":"change","form":"frmDemo","control":"cdMain",)";
+  EXPECT_THAT(lines, Contains(change + R"("property":"filter","value":"a|b"})"));
+  EXPECT_THAT(lines, Contains(R"({"event":"open","filter":"a|b","answer":"T:\\x.qlx"})"));
+  EXPECT_THAT(lines, Contains(change + R"("property":"filename","value":"T:\\x.qlx"})"));
+}
+
 TEST(Trace, WhatNoDumpShowsIsNotWritten) {
   EXPECT_TRUE(Changes([](frmDemo& form) { form.frLog.Move({0, 0, 1, 1}); }).empty());
 }

@@ -20,11 +20,13 @@ class UserTest : public testing::Test {
       form.cbOut.Add(item);
       form.lbPlain.Add(item);
       form.lbBoxes.Add(item);
+      form.lvMain.Add(item);
     }
     Listen(form.btStart, "start");
     Listen(form.lbPlain, "plain");
     Listen(form.lbBoxes, "boxes");
     Listen(form.txAnswer, "answer");
+    Listen(form.lvMain, "view");
     form.on_mouse_down = [this](Mouse mouse) { Hear("form down", mouse.button, mouse.shift); };
     form.on_mouse_up = [this](Mouse mouse) { Hear("form up", mouse.button, mouse.shift); };
     form.on_key_down = [this](Key& key) { Hear("form keydown", key.code, key.shift); };
@@ -149,6 +151,33 @@ TEST_F(UserTest, SelectsAsByKeyboard) {
   Refused("select frmDemo.lbPlain 0 1");
   Refused("select frmDemo.btStart 0");
 }
+
+TEST_F(UserTest, RowsOfAListViewCountFromOne) {
+  Works("click frmDemo.lvMain 1");
+  EXPECT_THAT(heard, ElementsAre("view down 1 0", "view up 1 0", "view click"));
+  EXPECT_EQ(form.lvMain.current(), 1);
+  EXPECT_TRUE(form.lvMain.At(1).selected);
+  Refused("click frmDemo.lvMain 0");
+  Refused("click frmDemo.lvMain 4");
+  Refused("click frmDemo.lvMain");
+  heard.clear();
+  Works("select frmDemo.lvMain 3 2");
+  EXPECT_TRUE(heard.empty());
+  EXPECT_FALSE(form.lvMain.At(1).selected);
+  EXPECT_TRUE(form.lvMain.At(3).selected);
+  EXPECT_EQ(form.lvMain.current(), 2);
+  Refused("select frmDemo.lvMain 0 1");
+  Works("select frmDemo.lvMain");
+  EXPECT_EQ(form.lvMain.current(), 0);
+  Works("dblclick frmDemo.lvMain 3");
+  EXPECT_THAT(heard, ElementsAre("view down 1 0", "view up 1 0", "view click", "view dblclick"));
+  heard.clear();
+  Works("mouse frmDemo.lvMain down 2 0 2");
+  EXPECT_THAT(heard, ElementsAre("view down 2 0"));
+  EXPECT_EQ(form.lvMain.current(), 2);
+}
+
+TEST_F(UserTest, ACommonDialogIsNothingToPointAt) { Refused("click frmDemo.cdMain"); }
 
 TEST_F(UserTest, InAComboBoxTheEntryBecomesTheText) {
   Works("select frmDemo.cbOut 1");
