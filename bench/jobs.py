@@ -103,6 +103,28 @@ def shows(form: str) -> Callable[[bytes, int], None]:
     return check
 
 
+def found(expected: int) -> Callable[[bytes, int], None]:
+    """So many folders stand in the list of empty ones."""
+
+    def check(output: bytes, _run: int) -> None:
+        lengths = [len(event["controls"]["lbMain"]["items"])
+                   for event in map(json.loads, output.splitlines()) if event["event"] == "dump"]
+        if lengths != [expected]:
+            raise WrongResult(f"{expected} folders expected, got {lengths}")
+
+    return check
+
+
+def gone(path: Callable[[int], Path]) -> Callable[[bytes, int], None]:
+    """The tree of a run isn't there any more."""
+
+    def check(_output: bytes, run: int) -> None:
+        if path(run).exists():
+            raise WrongResult(f"{path(run)} is still there")
+
+    return check
+
+
 class Jobs:
     """Builds the jobs over sample files in a scratch folder. Nothing made there is removed before
     the last run: making many files right after removing as many is far slower on some systems."""
@@ -126,6 +148,9 @@ class Jobs:
             "list": self.file_list,
             "folders": self.compare_folders,
             "lists": self.compare_lists,
+            "empty": self.empty_folders,
+            "delete": self.deletion,
+            "base": self.file_base,
         }
 
     def small(self) -> tuple[Path, int]:
@@ -270,3 +295,60 @@ class Jobs:
             Contestant("diff", lambda n: ["diff", *names]),
             Contestant("comm", lambda n: ["comm", "-12", "--nocheck-order", *names]),
         ], notes=["The peers compare line by line in one order, Orvik by names in any."])]
+
+    def empty_folders(self) -> list[Job]:
+        tree = self.scratch / "hollow"
+        folders, empty, files = sample_tree.make_hollow(tree, self.scale)
+        command = self.form_job("/EFD S:\\", "dump frmEmptyFolders\n", {"S": tree})
+        return [Job(f"empty folders, {folders} folders, {files} files", [
+            Contestant(ORVIK, lambda n: command, found(empty)),
+            Contestant(FLOOR, lambda n: self.floor("walk", tree), counts(files)),
+            Contestant("find -type d -empty",
+                       lambda n: ["find", str(tree), "-type", "d", "-empty"]),
+            Contestant("du -b", lambda n: ["du", "-b", str(tree)]),
+        ], notes=["`find -empty` looks at each folder alone; Orvik and `du` sum up what is below it."])]
+
+    def deletion(self) -> list[Job]:
+        place = self.scratch / "to delete"
+        place.mkdir()
+        files = max(100, round(100_000 * self.scale))
+
+        def fresh(name: str, number: int) -> Path:
+            path = place / f"{name} {number}"
+            sample_tree.make_zeros(path / "tree", files)
+            return path
+
+        def delete_by_form(number: int) -> list[str]:
+            # The tree is the first of the folders found.
+            script = ("select frmEmptyFolders.lbMain 0\nanswer message yes\n"
+                      "key frmEmptyFolders.lbMain 46\n")
+            return self.form_job("/EFD S:\\tree", script, {"S": fresh("orvik", number)})
+
+        return [Job(f"deletion, {files} empty files", [
+            Contestant(ORVIK, delete_by_form, gone(lambda n: place / f"orvik {n}" / "tree")),
+            Contestant("rm -rf", lambda n: ["rm", "-rf", str(fresh("rm", n) / "tree")],
+                       gone(lambda n: place / f"rm {n}" / "tree")),
+        ], writes=True, notes=["Orvik's deletion takes in the search for empty folders."])]
+
+    def file_base(self) -> list[Job]:
+        tree, files = self.small()
+        capacity = max(n for n in range(1, 1001) if files % n == 0)
+        place = self.scratch / "bases"
+        place.mkdir()
+
+        def fresh(name: str) -> Callable[[int], Path]:
+            return lambda n: place / f"{name} {n}"
+
+        def pour(number: int) -> list[str]:
+            target = fresh("orvik")(number)
+            target.mkdir()
+            script = (f'type frmFileBase.txFileCount "{capacity}"\n'
+                      'type frmFileBase.txBaseLocation "T:\\\\"\nclick frmFileBase.btCreate\n')
+            return self.form_job("/TOB S:\\", script, {"S": tree, "T": target})
+
+        return [Job(f"file base, {files} small files", [
+            Contestant(ORVIK, pour, holds(fresh("orvik"), files)),
+            Contestant(FLOOR, lambda n: self.floor("copy", tree, fresh("floor")(n)), counts(files)),
+            Contestant("cp -r", lambda n: ["cp", "-r", str(tree), str(fresh("cp")(n))],
+                       holds(fresh("cp"), files)),
+        ], writes=True, notes=["Beside a file base `cp` copies the same files in their own folders."])]

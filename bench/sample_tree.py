@@ -81,6 +81,34 @@ def make_mixed(root: Path, scale: float = 1.0) -> int:
     return files + 5
 
 
+def make_hollow(root: Path, scale: float = 1.0) -> tuple[int, int, int]:
+    """20,000 folders on three levels, every fourth of the lowest with five files. Answers the
+    numbers of folders, of those without anything below them, and of files."""
+    tops = max(2, round(20 * scale))
+    empty = files = 0
+    for top in range(tops):
+        for middle in range(30):
+            for lowest in range(32):
+                folder = root / f"{words(top)[top % 10]} {top:02}" / f"{middle:02}" / f"{lowest:02}"
+                folder.mkdir(parents=True)
+                if (middle + lowest) % 4:
+                    empty += 1
+                    continue
+                for number in range(5):
+                    (folder / f"{words(number)[number]}.dat").write_bytes(b"x" * (number + 1))
+                    files += 1
+    return tops * (1 + 30 * 33) + 1, empty, files
+
+
+def make_zeros(root: Path, files: int) -> None:
+    """Empty files, a hundred to a folder."""
+    for number in range(files):
+        folder = root / f"{number // 100:04}"
+        if number % 100 == 0:
+            folder.mkdir(parents=True)
+        (folder / f"{words(number)[number % 10]} {number % 100:02}").touch()
+
+
 def make_texts(root: Path, scale: float = 1.0) -> dict[str, Path]:
     """Answers the three files by their kind of content."""
     root.mkdir(parents=True, exist_ok=True)

@@ -19,9 +19,9 @@ class frmEmptyFolders : public forms::Form {
                         forms::ListBox::Boxes::kNone,
                         forms::ListBox::Selection::kExtended};
   forms::Label fr01{
-      *this, "fr01", {120, 4740, 5250, 255}, u"Пустыми считать папки не более 00 кб "};
-  forms::UpDown udSize{*this, "udSize", {5460, 4680, 270, 375}};
-  forms::Label frFilesCount{*this, "frFilesCount", {5850, 4740, 3060, 255}, u""};
+      *this, "fr01", {120, 4740, 3960, 255}, u"Пустыми считать папки не более 00 кб "};
+  forms::UpDown udSize{*this, "udSize", {4140, 4680, 270, 375}};
+  forms::Label frFilesCount{*this, "frFilesCount", {4560, 4740, 4350, 255}, u""};
   forms::Label frRights{*this, "frRights", {120, 5115, 8790, 240}, u"Rights"};
   forms::Timer clInfo{*this, "clInfo", 100, false};
 

@@ -17,8 +17,8 @@ class frmFileBase : public forms::Form {
   forms::Picture pbAddSource{
       *this, "pbAddSource", {6600, 375, 390, 375}, forms::Picture::Image::kFolder};
   forms::ComboBox cbPattern{*this, "cbPattern", {120, 2130, 2640, 345}, u"*.*"};
-  forms::TextBox txFileCount{*this, "txFileCount", {2910, 2130, 3660, 345}, u"256"};
-  forms::UpDown udMain{*this, "udMain", {6600, 2115, 270, 375}};
+  forms::TextBox txFileCount{*this, "txFileCount", {2910, 2130, 3780, 345}, u"256"};
+  forms::UpDown udMain{*this, "udMain", {6720, 2130, 270, 345}};
   forms::TextBox txFileFormat{*this, "txFileFormat", {120, 2880, 3330, 345}, u"FLx00000"};
   forms::TextBox txDirFormat{*this, "txDirFormat", {3600, 2880, 3390, 345}, u"BFx00000"};
   forms::TextBox txBaseLocation{*this, "txBaseLocation", {120, 3630, 6390, 345}, u""};

@@ -189,6 +189,17 @@ void Hands::Do(const script::KeyStroke& event) {
   StrikeKey(event.key);
 }
 
+void Hands::Do(const script::Arrow& event) {
+  const Found control = Control(event.target);
+  if (control.kind != Kind::kUpDown) throw Refused{Name(event.target) + " has no arrows"};
+  RECT area{};
+  GetClientRect(control.window, &area);
+  // The arrows lie one above the other.
+  const LPARAM at = MAKELPARAM(area.right / 2, event.up ? area.bottom / 4 : area.bottom * 3 / 4);
+  session_.messenger().Send(control.window, WM_LBUTTONDOWN, MK_LBUTTON, at);
+  session_.messenger().Send(control.window, WM_LBUTTONUP, 0, at);
+}
+
 void Hands::Do(const script::Resize& event) {
   const HWND form = Form(event.target);
   RECT inner{};

@@ -20,6 +20,7 @@ class Hands {
   void Do(const forms::headless::Select& event);
   void Do(const forms::headless::MouseButton& event);
   void Do(const forms::headless::KeyStroke& event);
+  void Do(const forms::headless::Arrow& event);
   void Do(const forms::headless::Resize& event);
   void Do(const forms::headless::Close& event);
 

@@ -62,7 +62,6 @@ void Player::Do(const script::Event& event) {
                    session_.record().End();
                  },
                  [&](const script::Dump& dump) { Show(dump); },
-                 [](const script::Arrow&) { throw Refused{"no arrows yet"}; },
                  [](const script::ChooseMenu&) { throw Refused{"no menus yet"}; },
                  // Taken before it comes here.
                  [](const script::Wait&) {},

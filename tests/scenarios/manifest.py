@@ -7,11 +7,12 @@ A manifest has one entry a line; blank lines and lines that begin with "#" are p
     file "b.bin" size=3000 pattern="abc" attributes=rhs
     file "c.bin" size=70000 seed=7
     file "d.bin" size=2147483648
+    link "сюда" target="sub"
 
 Paths are relative, with "/" between names, in UTF-8. Texts are written in quotes as JSON has them
 and go to disk in code page 1251. A size repeats a pattern, makes the noise of a seed, or, alone,
 is a hole that takes no room. Folders on the way are made by themselves. Attributes are letters:
-r read-only, h hidden, s system.
+r read-only, h hidden, s system. A link is a symbolic one; its target counts from the link's folder.
 
 A tree that is written down has short contents that are plain text as `text`, all others as `size`
 and `sha256`.
@@ -25,6 +26,7 @@ import re
 import stat
 
 CODE_PAGE = "cp1251"
+KINDS = ("file", "folder", "link")
 BITS = {"r": 1, "h": 2, "s": 4}
 # Where Samba and Wine keep the attributes of a file; read-only is a matter of permissions as well.
 ATTRIBUTE = "user.DOSATTRIB"
@@ -52,11 +54,11 @@ def _tokens(line):
 def _parse(line):
     """One entry as (kind, path, members)."""
     tokens = list(_tokens(line))
-    if len(tokens) < 2 or tokens[0][0] or tokens[1][0] or tokens[0][1] not in ("file", "folder"):
-        raise ManifestError('neither file "..." nor folder "...": ' + line)
+    if len(tokens) < 2 or tokens[0][0] or tokens[1][0] or tokens[0][1] not in KINDS:
+        raise ManifestError('neither file "..." nor folder "..." nor link "...": ' + line)
     members = {}
     for name, value in tokens[2:]:
-        if name not in ("text", "size", "pattern", "seed", "attributes", "sha256"):
+        if name not in ("text", "size", "pattern", "seed", "attributes", "sha256", "target"):
             raise ManifestError("unknown member in: " + line)
         members[name] = value
     path = tokens[1][1]
@@ -102,6 +104,8 @@ def build(text, folder):
         os.makedirs(path if kind == "folder" else os.path.dirname(path), exist_ok=True)
         if kind == "file":
             _write_content(path, members)
+        elif kind == "link":
+            os.symlink(members["target"], path)
         if members.get("attributes"):
             late.append((path, members["attributes"], ARCHIVE if kind == "file" else 0))
     # A folder that is read-only takes no more files.
@@ -148,6 +152,11 @@ def describe(folder):
     for root, folders, files in os.walk(folder):
         for name in folders + files:
             path = os.path.join(root, name)
+            if os.path.islink(path):
+                line = "link %s target=%s" % (_quoted(os.path.relpath(path, folder)),
+                                              _quoted(os.readlink(path)))
+                lines.append((os.path.relpath(path, folder), line))
+                continue
             kind = "folder" if os.path.isdir(path) else "file"
             line = kind + " " + _quoted(os.path.relpath(path, folder))
             if kind == "file":

@@ -250,8 +250,16 @@ std::string Do(const KeyStroke& event) {
 
 std::string Do(const Arrow& event) {
   std::string why;
-  const Control* control = Reached(event.target, why);
-  return control == nullptr ? why : Name(event.target) + " has no arrows";
+  Control* control = Reached(event.target, why);
+  if (control == nullptr) return why;
+  if (control->kind() != Kind::kUpDown) return Name(event.target) + " has no arrows";
+  auto& arrows = static_cast<UpDown&>(*control);
+  if (event.up) {
+    arrows.UserUp();
+  } else {
+    arrows.UserDown();
+  }
+  return {};
 }
 
 std::string Do(const ChooseMenu& event) {

@@ -1,38 +1,23 @@
-// A list with a check box at each entry.
+// A list box with a check box at each entry.
 #pragma once
 
-#include "forms/list_controls.h"
-#include "forms/win32/control_view.h"
+#include "forms/win32/list_box_view.h"
 
 namespace orvik::forms::win32 {
 
-// The window holds no entries: it asks for those in sight, so a list of 100,000 is there at once.
-class CheckListView : public ControlView {
+class CheckListView : public ListBoxView {
  public:
   CheckListView(ListBox& list, FormWindow& form);
-  void Changed(Change change) override;
-  void Place() override;
-  void Refresh(Changes changes) override;
   std::optional<LRESULT> OnNotify(NMHDR& header) override;
-  bool TakesFocus() const override { return true; }
 
  protected:
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  void Tell(LVITEMW& item) const override;
+  int EntryAt(const LVHITTESTINFO& hit) const override;
 
  private:
-  void ShowCount();
-  void ShowSelection();
-  void NoteLength(const Text& item);
-  void FitColumn();
-  void Tell(NMLVDISPINFOW& asked) const;
-  void Check(int position, bool checked);
   void OnSpace();
-  void OnClick(const NMITEMACTIVATE& click);
-  void OnSelection();
-  std::vector<int> Selection() const;
-
-  ListBox& list_;
-  Text longest_;
+  void Check(int position, bool checked);
 };
 
 }  // namespace orvik::forms::win32

@@ -77,6 +77,16 @@ LRESULT ControlView::Default(UINT message, WPARAM wparam, LPARAM lparam) const {
   return DefSubclassProc(window_, message, wparam, lparam);
 }
 
+void ControlView::DrawFocus() const {
+  if (GetFocus() != window_) return;
+  if ((Send(WM_QUERYUISTATE) & UISF_HIDEFOCUS) != 0) return;
+  RECT area;
+  GetClientRect(window_, &area);
+  const HDC context = GetDC(window_);
+  DrawFocusRect(context, &area);
+  ReleaseDC(window_, context);
+}
+
 void ControlView::OnMouse(UINT message, WPARAM wparam) {
   const auto click = MouseClickOf(message, wparam);
   if (click) Deliver([&] { control().UserMouse(click->down, click->mouse); });

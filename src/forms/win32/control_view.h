@@ -53,6 +53,8 @@ class ControlView : public Adapter {
   LRESULT Send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const {
     return SendMessageW(window_, message, wparam, lparam);
   }
+  // Marks the window when it has the keyboard and the user works by keyboard.
+  void DrawFocus() const;
   // Gives the model an event when the user can get at the control; else the control is put back as
   // the model has it.
   bool Deliver(const std::function<void()>& event);

@@ -55,16 +55,6 @@ bool LabelView::PressEnter() {
 
 void LabelView::OnFocus(bool /*here*/) { InvalidateRect(window(), nullptr, TRUE); }
 
-void LabelView::DrawFocus() const {
-  if (GetFocus() != window()) return;
-  if ((SendMessageW(window(), WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS) != 0) return;
-  RECT area;
-  GetClientRect(window(), &area);
-  const HDC context = GetDC(window());
-  DrawFocusRect(context, &area);
-  ReleaseDC(window(), context);
-}
-
 LRESULT LabelView::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   if (message == WM_KEYDOWN && wparam == VK_SPACE && PressEnter()) return 0;
   const LRESULT result = ControlView::OnMessage(message, wparam, lparam);

@@ -21,8 +21,6 @@ class LabelView : public ControlView {
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
 
  private:
-  void DrawFocus() const;
-
   const Label& label_;
 };
 

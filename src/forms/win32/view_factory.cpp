@@ -16,6 +16,7 @@
 #include "forms/win32/status_bar_view.h"
 #include "forms/win32/text_box_view.h"
 #include "forms/win32/timer_view.h"
+#include "forms/win32/up_down_view.h"
 
 namespace orvik::forms::win32 {
 
@@ -55,6 +56,8 @@ std::unique_ptr<Adapter> MakeView(Control& control, FormWindow& form) {
       return Make<StatusBarView, StatusBar>(control, form);
     case Kind::kTimer:
       return Make<TimerView, Timer>(control, form);
+    case Kind::kUpDown:
+      return Make<UpDownView, UpDown>(control, form);
     case Kind::kPicture:
       return Make<PictureView, Picture>(control, form);
     case Kind::kLine:
@@ -62,7 +65,6 @@ std::unique_ptr<Adapter> MakeView(Control& control, FormWindow& form) {
     // No form has these yet.
     case Kind::kMenu:
     case Kind::kTreeView:
-    case Kind::kUpDown:
     // Has no window of its own.
     case Kind::kCommonDialog:
       break;

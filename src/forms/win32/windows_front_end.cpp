@@ -12,9 +12,9 @@ namespace orvik::forms::win32 {
 WindowsFrontEnd::WindowsFrontEnd() : loop_(desk_) {
   // For the folder dialog and the task bar.
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
-  const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES |
-                                                           ICC_LISTVIEW_CLASSES |
-                                                           ICC_PROGRESS_CLASS | ICC_BAR_CLASSES};
+  const INITCOMMONCONTROLSEX controls{
+      sizeof controls, ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES | ICC_LISTVIEW_CLASSES |
+                           ICC_PROGRESS_CLASS | ICC_BAR_CLASSES | ICC_UPDOWN_CLASS};
   InitCommonControlsEx(&controls);
 }
 
