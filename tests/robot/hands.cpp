@@ -49,7 +49,7 @@ bool IsPlain(TextView text) {
 }  // namespace
 
 HWND Hands::Form(const script::Target& target) const {
-  const HWND form = session_.forms().Find(target.form);
+  const HWND form = stage_.forms().Find(target.form);
   if (form == nullptr) throw Refused{"no form " + target.form + " is open"};
   return form;
 }
@@ -57,7 +57,7 @@ HWND Hands::Form(const script::Target& target) const {
 Found Hands::Control(const script::Target& target) const {
   const HWND window = FindControl(Form(target), target.control);
   if (window == nullptr) throw Refused{"no control " + Name(target)};
-  const Found control{session_.program().process(), window, KindOf(window), target.control};
+  const Found control{stage_.program().process(), window, KindOf(window), target.control};
   if (control.kind == Kind::kLine) throw Refused{Name(target) + " is nothing to point at"};
   if (!Reachable(window)) throw Refused{Name(target) + " can't be reached"};
   return control;
@@ -67,14 +67,14 @@ void Hands::ClickControl(const Found& control) {
   if (EntryCount(control)) throw Refused{control.name + " is clicked on an entry"};
   // Sent to the control itself, which answers when all that the click sets off is done.
   if (EqualNoCase(ClassOf(control.window), u"Button")) {
-    session_.messenger().Send(control.window, BM_CLICK);
+    stage_.messenger().Send(control.window, BM_CLICK);
     return;
   }
   RECT area{};
   GetClientRect(control.window, &area);
   const LPARAM at = MAKELPARAM(area.right / 2, area.bottom / 2);
-  session_.messenger().Send(control.window, WM_LBUTTONDOWN, MK_LBUTTON, at);
-  session_.messenger().Send(control.window, WM_LBUTTONUP, 0, at);
+  stage_.messenger().Send(control.window, WM_LBUTTONDOWN, MK_LBUTTON, at);
+  stage_.messenger().Send(control.window, WM_LBUTTONUP, 0, at);
 }
 
 void Hands::ClickEntry(const Found& control, int position) {
@@ -168,7 +168,7 @@ void Hands::Do(const script::MouseButton& event) {
     const UINT first = right ? WM_RBUTTONDOWN : middle ? WM_MBUTTONDOWN : WM_LBUTTONDOWN;
     const WPARAM keys = ((event.mouse.shift & forms::kShift) != 0 ? MK_SHIFT : 0U) |
                         ((event.mouse.shift & forms::kCtrl) != 0 ? MK_CONTROL : 0U);
-    session_.messenger().Send(Form(event.target), event.down ? first : first + 1, keys);
+    stage_.messenger().Send(Form(event.target), event.down ? first : first + 1, keys);
     return;
   }
   const Found control = Control(event.target);
@@ -196,8 +196,8 @@ void Hands::Do(const script::Arrow& event) {
   GetClientRect(control.window, &area);
   // The arrows lie one above the other.
   const LPARAM at = MAKELPARAM(area.right / 2, event.up ? area.bottom / 4 : area.bottom * 3 / 4);
-  session_.messenger().Send(control.window, WM_LBUTTONDOWN, MK_LBUTTON, at);
-  session_.messenger().Send(control.window, WM_LBUTTONUP, 0, at);
+  stage_.messenger().Send(control.window, WM_LBUTTONDOWN, MK_LBUTTON, at);
+  stage_.messenger().Send(control.window, WM_LBUTTONUP, 0, at);
 }
 
 void Hands::Do(const script::Resize& event) {
@@ -213,7 +213,7 @@ void Hands::Do(const script::Resize& event) {
 }
 
 void Hands::Do(const script::Close& event) {
-  session_.messenger().Send(Form(event.target), WM_SYSCOMMAND, SC_CLOSE);
+  stage_.messenger().Send(Form(event.target), WM_SYSCOMMAND, SC_CLOSE);
 }
 
 }  // namespace orvik::robot

@@ -3,15 +3,15 @@
 
 #include "forms/headless/script.h"
 #include "robot/entries.h"
-#include "robot/session.h"
+#include "robot/stage.h"
 
 namespace orvik::robot {
 
-// Each doing is only begun here; Session::Settle waits for what comes of it. What no user could do
+// Each doing is only begun here; Stage::Settle waits for what comes of it. What no user could do
 // throws Refused, in the words of the headless program.
 class Hands {
  public:
-  explicit Hands(Session& session) : session_(session) {}
+  explicit Hands(Stage& stage) : stage_(stage) {}
 
   void Do(const forms::headless::Click& event);
   void Do(const forms::headless::DoubleClick& event);
@@ -31,7 +31,7 @@ class Hands {
   void ClickControl(const Found& control);
   void ClickEntry(const Found& control, int position);
 
-  Session& session_;
+  Stage& stage_;
 };
 
 }  // namespace orvik::robot

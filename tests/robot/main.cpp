@@ -77,10 +77,10 @@ void WriteOut(std::string_view lines) {
 int Play(robot::Program& program, const forms::headless::Script& script, int patience) {
   forms::headless::Transcript transcript(WriteOut);
   robot::Record record(transcript);
-  robot::Session session(program, record, patience);
+  robot::Stage stage(program, record, patience);
   int status = 0;
   try {
-    robot::Player(session).Play(script);
+    robot::Player(stage).Play(script);
   } catch (const robot::Hung& hung) {
     std::fprintf(stderr, "orvik-robot: %s\n", hung.what());
     status = kHung;

@@ -3,13 +3,13 @@
 
 #include "forms/headless/script.h"
 #include "robot/hands.h"
-#include "robot/session.h"
+#include "robot/stage.h"
 
 namespace orvik::robot {
 
 class Player {
  public:
-  explicit Player(Session& session) : session_(session), hands_(session) {}
+  explicit Player(Stage& stage) : stage_(stage), hands_(stage) {}
 
   // Plays the lines one by one, from the time when the program waits for its user, and writes the
   // end. Throws Hung.
@@ -21,7 +21,7 @@ class Player {
   void Do(const forms::headless::Event& event);
   void Show(const forms::headless::Dump& event);
 
-  Session& session_;
+  Stage& stage_;
   Hands hands_;
 };
 

@@ -1,4 +1,4 @@
-#include "robot/session.h"
+#include "robot/stage.h"
 
 namespace orvik::robot {
 
@@ -11,14 +11,14 @@ constexpr int kLook = 5;
 
 }  // namespace
 
-bool Session::Look() {
+bool Stage::Look() {
   bool news = forms_.Look();
   news = dialogs_.Look() || news;
   return clipboard_.Look() || news;
 }
 
 // The window procedure of a form answers as soon as its thread looks for messages.
-bool Session::Answers() {
+bool Stage::Answers() {
   for (HWND form : forms_.all()) {
     DWORD_PTR result = 0;
     if (SendMessageTimeoutW(form, WM_NULL, 0, 0, SMTO_NORMAL, kLook, &result) == 0) return false;
@@ -26,7 +26,7 @@ bool Session::Answers() {
   return forms_.any();
 }
 
-bool Session::Settle() {
+bool Stage::Settle() {
   const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(patience_);
   ULONGLONG busy = 0;
   ULONGLONG quiet_since = GetTickCount64();
@@ -50,7 +50,7 @@ bool Session::Settle() {
   }
 }
 
-bool Session::Watch(int milliseconds) {
+bool Stage::Watch(int milliseconds) {
   const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
   while (GetTickCount64() < end) {
     Messenger::Listen(kLook);
@@ -61,7 +61,7 @@ bool Session::Watch(int milliseconds) {
   return true;
 }
 
-bool Session::RunCommand(const Text& command) {
+bool Stage::RunCommand(const Text& command) {
   Text line = u"cmd.exe /d /s /c \"" + command + u"\"";
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;

@@ -17,10 +17,10 @@ struct Hung : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-class Session {
+class Stage {
  public:
   // `patience` is how long, in milliseconds, one event may keep the program busy.
-  Session(Program& program, Record& record, int patience)
+  Stage(Program& program, Record& record, int patience)
       : program_(program),
         record_(record),
         patience_(patience),
