@@ -40,6 +40,13 @@ TEST_F(ChecksumIndex, OnlyEmptyChecksumsAddNothing) {
   EXPECT_EQ(Read("a;\r\nb;\r\n").Count(), 1U);
 }
 
+TEST_F(ChecksumIndex, AFolderGivesNothing) {
+  host.files.AddFolder(u"T:\\folder.qlx");
+  KeyedCollection index;
+  ReadChecksumList(u"T:\\folder.qlx", index);
+  EXPECT_EQ(index.Count(), 0U);
+}
+
 TEST_F(ChecksumIndex, LongListsAndAnyBytes) {
   std::string content;
   for (int i = 0; i < 300000; ++i) content += "x;1\r\n";

@@ -117,6 +117,20 @@ TEST_F(ListComparison, AMissingListOfTheCommandIsMadeEmptyAndRefused) {
   EXPECT_TRUE(host.files.Exists(u"T:\\new.qlx"));
 }
 
+TEST_F(ListComparison, AFolderIsAnEmptyList) {
+  host.files.AddFolder(u"T:\\folder.qlx");
+  host.files.AddFile(u"T:\\l.qlx", "X:\\a;1\r\n");
+  front.file_answers.push_back(u"T:\\folder.qlx");
+  EXPECT_EQ(Run(u"/CML T:\\l.qlx"), forms::EndReason::kShutdown);
+  EXPECT_EQ(front.events.back(),
+            "message Файл-Лист T:\\folder.qlx пуст|zKelmar's Orvik  v 0.9.8.3 FN|information|ok");
+}
+
+TEST_F(ListComparison, OneLineWithoutAnEnd) {
+  Compare("X:\\a", "X:\\a;1");
+  EXPECT_EQ(Rows(), (std::vector<std::string>{"green X:\\a|1"}));
+}
+
 TEST_F(ListComparison, RepaintsAtEveryLineButEachFiftieth) {
   std::string list;
   for (int i = 0; i < 100; ++i) list += "X:\\" + std::to_string(i) + ";1\r\n";

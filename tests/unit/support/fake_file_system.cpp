@@ -133,8 +133,9 @@ std::vector<Text> FakeFileSystem::Tree(TextView folder) const {
   const std::function<void(const FakeNode&, const Text&)> add = [&](const FakeNode& node,
                                                                     const Text& at) {
     for (const auto& child : node.children) {
-      paths.push_back(at + u"\\" + child->name);
-      add(*child, paths.back());
+      const Text path = at + u"\\" + child->name;
+      paths.push_back(path);
+      add(*child, path);
     }
   };
   Text start(folder);
