@@ -30,6 +30,7 @@ double ReadLimit() {
 
 frmEmptyFolders::frmEmptyFolders() : Form("frmEmptyFolders", u"Пустые папки", 9120, 5880) {
   lbMain.SetAnchor(forms::Control::Anchor::kStretch);
+  udSize.SetHint(u"Изменить предел");
   clInfo.on_timer = [this] { ShowProgress(); };
   lbMain.on_double_click = [this] { OpenCurrent(); };
   lbMain.on_mouse_down = [this](forms::Mouse) { CountFiles(); };

@@ -16,6 +16,7 @@ namespace orvik {
 frmFileBase::frmFileBase() : Form("frmFileBase", u"Формирование файловой базы", 7200, 6225) {
   btCreate.MakeDefault();
   pbAddSource.SetHint(u"Добавить папку");
+  udMain.SetHint(u"Изменить количество");
   pbDest.SetHint(u"Выбрать расположение");
   WireEvents();
 }

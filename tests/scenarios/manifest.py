@@ -64,6 +64,8 @@ def _parse(line):
     path = tokens[1][1]
     if path.startswith("/") or ".." in path.split("/"):
         raise ManifestError("a path that leaves the tree: " + path)
+    if (tokens[0][1] == "link") != ("target" in members):
+        raise ManifestError("a link has a target, and nothing else has: " + line)
     return tokens[0][1], path, members
 
 

@@ -72,9 +72,16 @@ class ManifestTest(Folder):
             file.write(b"\x00\x98")
         self.assertIn("sha256=", manifest.describe(self.tree)[0])
 
+    def test_links_are_told_and_not_followed(self):
+        manifest.build('file "d/x" text="1"\nlink "e/сюда" target="../d"\n', self.tree)
+        self.assertEqual(os.readlink(os.path.join(self.tree, "e", "сюда")), "../d")
+        self.assertEqual(manifest.describe(self.tree),
+                         ['folder "d"', 'file "d/x" text="1"', 'folder "e"',
+                          'link "e/сюда" target="../d"'])
+
     def test_bad_lines_are_refused(self):
         for line in ("a.txt", 'file a="b"', 'link "x"', 'file "x" colour=red', 'file "../x"',
-                     'file "/x"', 'file "x', 'file "x" attributes=z'):
+                     'file "/x"', 'file "x', 'file "x" attributes=z', 'folder "x" target="y"'):
             with self.assertRaises(manifest.ManifestError, msg=line):
                 manifest.build(line, self.tree)
 
