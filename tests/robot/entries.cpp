@@ -144,10 +144,19 @@ void ChooseInComboBox(const Found& combo_box, int position) {
     throw Refused{combo_box.name + " is locked"};
   }
   GiveFocus(FieldOf(combo_box.window));
-  Ask(combo_box.window, CB_SHOWDROPDOWN, TRUE);
-  const HWND list = OpenListOf(combo_box.window);
-  if (list == nullptr) throw Refused{combo_box.name + " doesn't open its list"};
-  PressMouse(PointInListBox(list, position), Press::kClick);
+  // A list that has just opened may scroll once more, to the entry that fits the text, between the
+  // look at it and the press. As a user would, the robot looks whether it got what it wanted.
+  constexpr int kTries = 3;
+  constexpr int kOpening = 100;
+  for (int tries = 0; tries < kTries; ++tries) {
+    Ask(combo_box.window, CB_SHOWDROPDOWN, TRUE);
+    const HWND list = OpenListOf(combo_box.window);
+    if (list == nullptr) throw Refused{combo_box.name + " doesn't open its list"};
+    Messenger::Listen(kOpening);
+    PressMouse(PointInListBox(list, position), Press::kClick);
+    Messenger::Listen(kOpening);
+    if (Ask(combo_box.window, CB_GETCURSEL) == position) return;
+  }
 }
 
 }  // namespace orvik::robot
