@@ -38,4 +38,9 @@ class RealHost {
   Text scratch_;
 };
 
+// What another process does to a file of the system's own path: it holds it as strongly as the
+// system offers, on Windows by opening it without sharing. The handle closes with the object; there
+// is none when the file couldn't be held.
+std::shared_ptr<void> HoldAsAnotherProgram(const char* path);
+
 }  // namespace orvik::host

@@ -76,5 +76,15 @@ void RealHost::SetTime(TextView name, std::int64_t time) {
 
 bool RealHost::KeepsValueOrder() { return true; }
 
+std::shared_ptr<void> HoldAsAnotherProgram(const char* path) {
+  struct Held {
+    posix::PosixHost host{posix::DefaultOptions()};
+    std::unique_ptr<File> file;
+  };
+  auto held = std::make_shared<Held>();
+  held->file = held->host.services().files->Open(held->host.DriveForm(path), OpenMode::kHold);
+  return held->file ? held : nullptr;
+}
+
 }  // namespace orvik::host
 #endif

@@ -92,5 +92,12 @@ bool RealHost::KeepsValueOrder() {
   return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") == nullptr;
 }
 
+std::shared_ptr<void> HoldAsAnotherProgram(const char* path) {
+  const HANDLE file = CreateFileA(path, GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return nullptr;
+  return {file, [](void* handle) { CloseHandle(handle); }};
+}
+
 }  // namespace orvik::host
 #endif

@@ -76,6 +76,23 @@ TEST_F(ShellTest, AProgramStartsWithItsArguments) {
   EXPECT_TRUE(Comes([&] { return files().PathExists(made); }));
 }
 
+TEST_F(ShellTest, AFileThatAnotherProcessHoldsStaysUntilItLetsGo) {
+  Write(u"held", "1");
+  Write(u"other", "2");
+  ASSERT_TRUE(shell().Start(u"\"" + system().OwnPath() + u"\" --hold \"" + At(u"held") + u"\"",
+                            WindowState::kMinimised));
+  ASSERT_TRUE(Comes([&] { return Exists(u"held.held"); }));
+  EXPECT_TRUE(Exists(u"held"));
+  EXPECT_EQ(files().FileLength(At(u"held")), 1);
+  EXPECT_FALSE(files().DeleteFile(At(u"held")));
+  EXPECT_FALSE(files().CopyFile(At(u"other"), At(u"held"), false));
+  EXPECT_FALSE(files().MoveFile(At(u"held"), At(u"moved"), false));
+  EXPECT_FALSE(files().MoveFile(At(u"other"), At(u"held"), true));
+  EXPECT_EQ(files().Open(At(u"held"), OpenMode::kHold), nullptr);
+  Write(u"held.release", "");
+  EXPECT_TRUE(Comes([&] { return files().DeleteFile(At(u"held")); }));
+}
+
 TEST_F(ShellTest, AProcessIsSeenAndEnded) {
   const std::vector<std::uint32_t> before = OwnKind();
   ASSERT_FALSE(before.empty());
