@@ -1,5 +1,6 @@
 #include "base/text.h"
 
+#include <array>
 #include <cstdint>
 
 namespace orvik {
@@ -80,6 +81,48 @@ constexpr Range kRanges[] = {
     {0x3A3, 0x3AB, 32}, {0x400, 0x40F, 80}, {0x410, 0x42F, 32}, {0x531, 0x556, 48},
 };
 
+constexpr char16_t SmallLetterOf(char16_t c) {
+  if (c < 0x80) return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c;
+  if (c == 0x178) return 0xFF;
+  if (c == 0x4C0) return 0x4CF;
+  if (CapitalsAreEven(c)) return static_cast<char16_t>(c | 1);
+  if (CapitalsAreOdd(c)) return static_cast<char16_t>(c + (c & 1));
+  for (const Range& range : kRanges) {
+    if (c >= range.first && c <= range.last) return static_cast<char16_t>(c + range.distance);
+  }
+  return c;
+}
+
+constexpr char16_t CapitalOf(char16_t c) {
+  if (c < 0x80) return c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - 32) : c;
+  if (c == 0xFF) return 0x178;
+  if (c == 0x4CF) return 0x4C0;
+  if (c == 0x3C2) return 0x3A3;  // the small sigma at the end of a word
+  if (CapitalsAreEven(c)) return static_cast<char16_t>(c & ~1);
+  if (CapitalsAreOdd(c)) return static_cast<char16_t>(c - !(c & 1));
+  for (const Range& range : kRanges) {
+    if (c >= range.first + range.distance && c <= range.last + range.distance) {
+      return static_cast<char16_t>(c - range.distance);
+    }
+  }
+  return c;
+}
+
+// All letters with two cases that are mapped lie below this.
+constexpr char16_t kMapped = 0x590;
+
+using CaseTable = std::array<char16_t, kMapped>;
+
+constexpr CaseTable TableOf(char16_t (*map)(char16_t)) {
+  CaseTable table{};
+  for (char16_t c = 0; c < kMapped; ++c) table[c] = map(c);
+  return table;
+}
+
+// Every comparison of names goes through these, a character at a time.
+constexpr CaseTable kSmallLetters = TableOf(SmallLetterOf);
+constexpr CaseTable kCapitals = TableOf(CapitalOf);
+
 }  // namespace
 
 Text FromUtf8(std::string_view utf8) {
@@ -103,32 +146,9 @@ std::string ToUtf8(TextView text) {
   return bytes;
 }
 
-char16_t ToLower(char16_t c) {
-  if (c < 0x80) return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c;
-  if (c == 0x178) return 0xFF;
-  if (c == 0x4C0) return 0x4CF;
-  if (CapitalsAreEven(c)) return static_cast<char16_t>(c | 1);
-  if (CapitalsAreOdd(c)) return static_cast<char16_t>(c + (c & 1));
-  for (const Range& range : kRanges) {
-    if (c >= range.first && c <= range.last) return static_cast<char16_t>(c + range.distance);
-  }
-  return c;
-}
+char16_t ToLower(char16_t c) { return c < kMapped ? kSmallLetters[c] : c; }
 
-char16_t ToUpper(char16_t c) {
-  if (c < 0x80) return c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - 32) : c;
-  if (c == 0xFF) return 0x178;
-  if (c == 0x4CF) return 0x4C0;
-  if (c == 0x3C2) return 0x3A3;  // the small sigma at the end of a word
-  if (CapitalsAreEven(c)) return static_cast<char16_t>(c & ~1);
-  if (CapitalsAreOdd(c)) return static_cast<char16_t>(c - !(c & 1));
-  for (const Range& range : kRanges) {
-    if (c >= range.first + range.distance && c <= range.last + range.distance) {
-      return static_cast<char16_t>(c - range.distance);
-    }
-  }
-  return c;
-}
+char16_t ToUpper(char16_t c) { return c < kMapped ? kCapitals[c] : c; }
 
 Text ToLower(TextView text) {
   Text result(text);
