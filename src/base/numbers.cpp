@@ -45,9 +45,9 @@ double NumericReading(TextView text) {
   for (char16_t c : text) {
     if (c == u' ' || c == u'\t' || c == u'\n') continue;
     const bool after_exponent = !number.empty() && number.back() == 'e';
-    if (c >= u'0' && c <= u'9') {
-      number.push_back(static_cast<char>(c));
-    } else if ((c == u'+' || c == u'-') && (number.empty() || after_exponent)) {
+    const bool digit = c >= u'0' && c <= u'9';
+    const bool sign = (c == u'+' || c == u'-') && (number.empty() || after_exponent);
+    if (digit || sign) {
       number.push_back(static_cast<char>(c));
     } else if (c == u'.' && !point && !exponent) {
       point = true;

@@ -66,6 +66,7 @@ void frmFileBase::ChangeCount(int step) {
 void frmFileBase::Create() {
   mdlMain::SavePatternCombo(cbPattern, host::kLocalMachine, mdlMain::DoublesPatternKey);
   std::vector<Text> sources;
+  sources.reserve(static_cast<std::size_t>(lbSources.count()));
   for (int i = 0; i < lbSources.count(); ++i) sources.push_back(lbSources.Item(i));
   // A capacity that 32 bits don't hold fails, and the job with it.
   Attempt([&] {
