@@ -25,12 +25,12 @@ enum class Property {
   kSub,
   kColor,
   kChecked,
+  kExpanded,
   kRemove,
   kClear,
   kColumns,
   kTooltip,
-  kDrawn,  // a line on a form's own surface
-  kSkin,   // transparency or region of a form
+  kSkin,  // transparency or region of a form
 };
 
 struct Change {

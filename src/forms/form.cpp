@@ -63,20 +63,48 @@ void Form::SetTopmost(bool topmost) {
   Changed(Property::kTopmost);
 }
 
-void Form::Show() {
-  if (state_ == State::kNew) {
-    state_ = State::kLoading;
-    Loaded().push_back(this);
-    Front().Load(*this);
-    OnLoad();
-    if (state_ == State::kLoading) state_ = State::kLoaded;
-  }
+void Form::SetTransparency(int level) {
+  if (transparency_ == level) return;
+  transparency_ = level;
+  Changed(Property::kSkin);
+}
+
+void Form::SetRegion(const RoundRegion& region) {
+  region_ = region;
+  Changed(Property::kSkin);
+}
+
+void Form::Draw(const DrawnLine& line) {
+  if (loaded()) Front().Draw(*this, line);
+}
+
+void Form::Load() {
+  if (state_ != State::kNew) return;
+  state_ = State::kLoading;
+  Loaded().push_back(this);
+  Front().Load(*this);
+  OnLoad();
+  if (state_ == State::kLoading) state_ = State::kLoaded;
+}
+
+bool Form::Appear() {
+  Load();
   // A form may take itself away in its load routine.
-  if (!loaded() || visible_) return;
+  if (!loaded() || visible_) return false;
   visible_ = true;
   OnResize();
-  Front().Show(*this);
+  return true;
 }
+
+void Form::Show() {
+  if (Appear()) Front().Show(*this);
+}
+
+void Form::ShowModal() {
+  if (Appear()) Front().ShowModal(*this);
+}
+
+void Form::PopUp(Menu& menu) { Front().PopUp(menu); }
 
 void Form::Unload() {
   if (!loaded()) return;
