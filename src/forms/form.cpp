@@ -58,9 +58,10 @@ void Form::SetSize(int width, int height) {
 }
 
 void Form::SetTopmost(bool topmost) {
-  if (topmost_ == topmost) return;
+  const bool again = topmost_ == topmost;
+  if (again && !topmost) return;
   topmost_ = topmost;
-  Changed(Property::kTopmost);
+  Changed(again ? Property::kTopmostAgain : Property::kTopmost);
 }
 
 void Form::SetTransparency(int level) {
