@@ -6,6 +6,7 @@
 #include "cleaning/frm_empty_folders.h"
 #include "cleaning/frm_eraser.h"
 #include "copying/frm_main.h"
+#include "duplicates/frm_doubles.h"
 #include "filebase/frm_file_base.h"
 #include "fileengine/checksums.h"
 #include "fileengine/frm_file_crc.h"
@@ -14,6 +15,9 @@
 #include "filelists/frm_create_file_list.h"
 #include "forms/instance.h"
 #include "host/registry.h"
+#include "monitors/frm_file_lock.h"
+#include "monitors/frm_search_text.h"
+#include "monitors/frm_watch_folder_size.h"
 #include "startup/commands.h"
 #include "startup/globals.h"
 
@@ -42,6 +46,7 @@ constexpr Switch kSwitches[] = {
        CompareWithFolder = kTrue;
        Show<frmCRC>();
      }},
+    {u"/DBL ", Show<frmDoubles>},
     {u"/CML ",
      [] {
        CompareFileLists = kTrue;
@@ -50,6 +55,9 @@ constexpr Switch kSwitches[] = {
     {u"/FCR ", Show<frmFileCRC>},
     {u"/CRL ", Show<frmCreateFileList>},
     {u"/TOB ", Show<frmFileBase>},
+    {u"/LCK ", Show<frmFileLock>},
+    {u"/SRT ", Show<frmSearchText>},
+    {u"/WTH ", Show<frmWatchFolderSize>},
     {u"/FLE ",
      [] {
        EraseOneFile = kTrue;

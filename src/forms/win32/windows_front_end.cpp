@@ -32,6 +32,19 @@ void WindowsFrontEnd::Load(Form& form) {
 
 void WindowsFrontEnd::Show(Form& form) { WindowOf(form).Show(); }
 
+void WindowsFrontEnd::ShowModal(Form& form) {
+  WindowOf(form).Show();
+  while (form.loaded() && loop_.WaitForInput(-1)) loop_.Yield();
+}
+
+void WindowsFrontEnd::PopUp(Menu& /*menu*/) {}
+
+void WindowsFrontEnd::Draw(Form& /*form*/, const DrawnLine& /*line*/) {}
+
+void WindowsFrontEnd::Drag(Form& /*form*/) {}
+
+TwipsPerPixel WindowsFrontEnd::Scale() { return {}; }
+
 void WindowsFrontEnd::Unload(Form& /*form*/) {}
 
 void WindowsFrontEnd::Unloaded(Form& form) {
