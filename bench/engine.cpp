@@ -29,6 +29,9 @@ class NoFrontEnd : public forms::FrontEnd {
  public:
   void Load(forms::Form&) override {}
   void Show(forms::Form&) override {}
+  void ShowModal(forms::Form&) override {}
+  void PopUp(forms::Menu&) override {}
+  void Draw(forms::Form&, const forms::DrawnLine&) override {}
   void Unload(forms::Form&) override {}
   void Unloaded(forms::Form&) override {}
   void Changed(forms::Form&, forms::Change) override {}
@@ -47,6 +50,8 @@ class NoFrontEnd : public forms::FrontEnd {
     return std::nullopt;
   }
   void PutOnClipboard(const Text&) override {}
+  void Drag(forms::Form&) override {}
+  forms::TwipsPerPixel Scale() override { return {}; }
 };
 
 std::vector<Text> Walk(Text root) {
