@@ -51,7 +51,7 @@ TEST(ReadItemPathTest, TheFullNameOfTheExtensionComesFirst) {
 }
 
 TEST(ReadItemPathTest, AnExtensionWithoutASignatureIsWines) {
-  const std::string extension = Hex("20 00") + std::string(18, '\0') + Wide(u"имя") + Hex("00 00");
+  const std::string extension = Hex("1E 00") + std::string(18, '\0') + Wide(u"имя") + Hex("00 00");
   EXPECT_EQ(PathOf(kComputer + kDriveC + ExtendedItem("x", extension) + kEnd), "C:\\имя");
 }
 

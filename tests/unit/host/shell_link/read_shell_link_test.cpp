@@ -114,7 +114,7 @@ TEST(ReadShellLinkTest, SizesThatLieMakeItNone) {
 
 TEST(ReadShellLinkTest, ItemsThatLeadNowhereDontSpoilTheRest) {
   std::string items = kItems;
-  items[5] = '\x7F';
+  items[6] = '\x7F';
   const auto link = Read(Header(0x83) + items + kInfo + kEnd);
   ASSERT_TRUE(link);
   EXPECT_EQ(link->item_path, u"");
