@@ -14,9 +14,10 @@ enum class Property {
   kMax,
   kInterval,
   kActive,
-  kBounds,    // position or size
-  kTopmost,   // of a form
-  kSelected,  // which entries, rows or nodes are selected
+  kBounds,        // position or size
+  kTopmost,       // of a form
+  kTopmostAgain,  // asked for anew: another window may have come before it meanwhile
+  kSelected,      // which entries, rows or nodes are selected
   kFilename,
   kFilter,
   // Entries, rows and nodes; the position says which.
@@ -25,12 +26,12 @@ enum class Property {
   kSub,
   kColor,
   kChecked,
+  kExpanded,
   kRemove,
   kClear,
   kColumns,
   kTooltip,
-  kDrawn,  // a line on a form's own surface
-  kSkin,   // transparency or region of a form
+  kSkin,  // transparency or region of a form
 };
 
 struct Change {

@@ -58,25 +58,54 @@ void Form::SetSize(int width, int height) {
 }
 
 void Form::SetTopmost(bool topmost) {
-  if (topmost_ == topmost) return;
+  const bool again = topmost_ == topmost;
+  if (again && !topmost) return;
   topmost_ = topmost;
-  Changed(Property::kTopmost);
+  Changed(again ? Property::kTopmostAgain : Property::kTopmost);
+}
+
+void Form::SetTransparency(int level) {
+  if (transparency_ == level) return;
+  transparency_ = level;
+  Changed(Property::kSkin);
+}
+
+void Form::SetRegion(const RoundRegion& region) {
+  region_ = region;
+  Changed(Property::kSkin);
+}
+
+void Form::Draw(const DrawnLine& line) {
+  if (loaded()) Front().Draw(*this, line);
+}
+
+void Form::Load() {
+  if (state_ != State::kNew) return;
+  state_ = State::kLoading;
+  Loaded().push_back(this);
+  Front().Load(*this);
+  OnLoad();
+  if (state_ == State::kLoading) state_ = State::kLoaded;
+}
+
+bool Form::Appear() {
+  Load();
+  // A form may take itself away in its load routine.
+  if (!loaded() || visible_) return false;
+  visible_ = true;
+  OnResize();
+  return true;
 }
 
 void Form::Show() {
-  if (state_ == State::kNew) {
-    state_ = State::kLoading;
-    Loaded().push_back(this);
-    Front().Load(*this);
-    OnLoad();
-    if (state_ == State::kLoading) state_ = State::kLoaded;
-  }
-  // A form may take itself away in its load routine.
-  if (!loaded() || visible_) return;
-  visible_ = true;
-  OnResize();
-  Front().Show(*this);
+  if (Appear()) Front().Show(*this);
 }
+
+void Form::ShowModal() {
+  if (Appear()) Front().ShowModal(*this);
+}
+
+void Form::PopUp(Menu& menu) { Front().PopUp(menu); }
 
 void Form::Unload() {
   if (!loaded()) return;

@@ -11,11 +11,19 @@ namespace orvik::forms {
 
 class Control;
 class Form;
+class Menu;
+struct DrawnLine;
 
 enum class Icon { kNone, kInformation, kQuestion, kCritical };
 enum class Buttons { kOk, kOkCancel, kYesNo };
 enum class Answer { kOk, kCancel, kYes, kNo };
 enum class FileDialog { kOpen, kSave };
+
+// How many twips a pixel of the screen has, in each direction.
+struct TwipsPerPixel {
+  double horizontal = 15;
+  double vertical = 15;
+};
 
 // Why the process ends.
 enum class EndReason {
@@ -32,6 +40,13 @@ class FrontEnd {
   virtual void Load(Form& form) = 0;
   // The form is to be seen from now on.
   virtual void Show(Form& form) = 0;
+  // The same, and the form alone answers until it has gone.
+  virtual void ShowModal(Form& form) = 0;
+  // Opens a menu at the mouse. The item that the user chooses is clicked, before this returns or
+  // afterwards.
+  virtual void PopUp(Menu& menu) = 0;
+  // Draws on a form's own surface, where it stays across repaints. Of loaded forms only.
+  virtual void Draw(Form& form, const DrawnLine& line) = 0;
   // The form goes, before its unload routine runs. Its views must not outlive Unloaded.
   virtual void Unload(Form& form) = 0;
   // The unload routine has run. When no form is left the process ends, whatever is running.
@@ -60,6 +75,11 @@ class FrontEnd {
   // `filter` as "description|mask|description|mask". Nothing on cancel.
   virtual std::optional<Text> AskFileName(FileDialog dialog, const Text& filter, Form* owner) = 0;
   virtual void PutOnClipboard(const Text& text) = 0;
+
+  // Hands a mouse button that was pressed on a form over to the system, as if it had hit a title
+  // bar: the form follows the mouse until the button is released.
+  virtual void Drag(Form& form) = 0;
+  virtual TwipsPerPixel Scale() = 0;
 };
 
 // The front end in place. One is installed at the start of a program and for each test.

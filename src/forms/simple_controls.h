@@ -1,6 +1,9 @@
 // Controls without entries.
 #pragma once
 
+#include <cstdint>
+#include <optional>
+
 #include "forms/control.h"
 
 namespace orvik::forms {
@@ -28,9 +31,18 @@ class Label : public Captioned {
 
   Cut cut() const { return cut_; }
   void SetCut(Cut cut) { cut_ = cut; }
+  // How the caption is written where it isn't in the system's font and colour.
+  struct Style {
+    std::uint32_t color = 0;  // blue-green-red
+    bool bold = false;
+    bool serif = false;
+  };
+  const std::optional<Style>& style() const { return style_; }
+  void SetStyle(const Style& style) { style_ = style; }
 
  private:
   Cut cut_ = Cut::kEnd;
+  std::optional<Style> style_;
 };
 
 class Button : public Captioned {
@@ -166,6 +178,13 @@ class Line : public Control {
  public:
   Line(Form& form, const char* name, Bounds bounds, int index = -1)
       : Control(form, Kind::kLine, name, bounds, index) {}
+
+  // Blue-green-red; nothing for the system's colour of shadows.
+  const std::optional<std::uint32_t>& color() const { return color_; }
+  void SetColor(std::uint32_t color) { color_ = color; }
+
+ private:
+  std::optional<std::uint32_t> color_;
 };
 
 }  // namespace orvik::forms

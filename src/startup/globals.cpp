@@ -16,6 +16,8 @@ Flag EraseOneFile = kFalse;
 std::vector<Text> ScriptLines;
 std::int32_t CopyErrorCount = 0;
 
+KeyedCollection DoublesExtraFolders;
+
 std::uint32_t RegRootKey = 0;
 Text RegRootPath;
 Text RecentPathKey;
@@ -58,6 +60,7 @@ bool IsWinNT() { return host::TheSystem().PlatformId() == 2; }
 
 void Shutdown() {
   mdlSupport::ClearScanResults();
+  DoublesExtraFolders = {};
   forms::Front().EndProcess(forms::EndReason::kShutdown);
   // Not every compiler believes a virtual routine that it never returns.
   std::abort();

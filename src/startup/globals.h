@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/checked.h"
+#include "base/keyed_collection.h"
 #include "base/text.h"
 
 namespace orvik::mdlMain {
@@ -29,6 +30,9 @@ extern Flag EraseOneFile;
 extern std::vector<Text> ScriptLines;
 // The errors of the last copy job.
 extern std::int32_t CopyErrorCount;
+
+// The folders that a duplicate search walks behind the one of CommandArgs.
+extern KeyedCollection DoublesExtraFolders;
 
 // Where a registry operation goes that is given the key 0 and the path "".
 extern std::uint32_t RegRootKey;

@@ -6,6 +6,7 @@
 #include "cleaning/frm_empty_folders.h"
 #include "cleaning/frm_eraser.h"
 #include "copying/frm_main.h"
+#include "duplicates/frm_doubles.h"
 #include "filebase/frm_file_base.h"
 #include "fileengine/checksums.h"
 #include "fileengine/file_operations.h"
@@ -16,6 +17,9 @@
 #include "forms/front_end.h"
 #include "forms/instance.h"
 #include "host/registry.h"
+#include "monitors/frm_file_lock.h"
+#include "monitors/frm_search_text.h"
+#include "monitors/frm_watch_folder_size.h"
 #include "platform/punto.h"
 #include "platform/shortcuts.h"
 #include "platform/system_launch.h"
@@ -48,6 +52,7 @@ constexpr Switch kSwitches[] = {
        CompareWithFolder = kTrue;
        Show<frmCRC>();
      }},
+    {u"/DBL ", Show<frmDoubles>},
     {u"/CML ",
      [] {
        CompareFileLists = kTrue;
@@ -56,6 +61,9 @@ constexpr Switch kSwitches[] = {
     {u"/FCR ", Show<frmFileCRC>},
     {u"/CRL ", Show<frmCreateFileList>},
     {u"/TOB ", Show<frmFileBase>},
+    {u"/LCK ", Show<frmFileLock>},
+    {u"/SRT ", Show<frmSearchText>},
+    {u"/WTH ", Show<frmWatchFolderSize>},
     {u"/SHT ", [] { ViewFile(CommandArgs); }},
     {u"/FLE ",
      [] {

@@ -1,5 +1,10 @@
 // What the front end is asked to show and to ask.
+#include <algorithm>
+
+#include "base/failure.h"
 #include "forms/headless/headless_front_end.h"
+#include "forms/menu.h"
+#include "forms/simple_controls.h"
 
 namespace orvik::forms::headless {
 
@@ -54,7 +59,47 @@ void WriteAnswer(JsonWriter& json, const std::optional<Text>& answer) {
   }
 }
 
+// The first control of a kind, nullptr when a form has none.
+template <typename ControlClass>
+ControlClass* First(const Form& form, Kind kind) {
+  const auto& controls = form.controls();
+  const auto found = std::find_if(controls.begin(), controls.end(),
+                                  [&](const Control* control) { return control->kind() == kind; });
+  return found == controls.end() ? nullptr : static_cast<ControlClass*>(*found);
+}
+
 }  // namespace
+
+void HeadlessFrontEnd::ShowModal(Form& form) {
+  Show(form);
+  auto* const box = First<TextBox>(form, Kind::kTextBox);
+  auto* const button = First<Button>(form, Kind::kButton);
+  const Text caption = form.caption();
+  const Text text = box != nullptr ? box->text() : Text();
+  const Answers::TextAnswer queued = answers_.ToText(Question::kForm);
+  const bool pressed = button != nullptr && (!queued.queued || queued.text);
+  std::optional<Text> answer;
+  if (pressed) {
+    if (box != nullptr && queued.text) box->UserType(*queued.text);
+    answer = box != nullptr ? box->text() : Text();
+    Attempt([&] { button->UserClick(); });
+  }
+  // Closed by its title bar, unless the button did it.
+  form.UserClose();
+  JsonWriter& json = transcript_.Begin("modal");
+  json.Name("form").String(form.name());
+  json.Name("caption").String(TextView(caption));
+  json.Name("text").String(TextView(text));
+  WriteAnswer(json, answer);
+  transcript_.End();
+}
+
+void HeadlessFrontEnd::PopUp(Menu& menu) {
+  JsonWriter& json = transcript_.Begin("popup");
+  json.Name("form").String(menu.form().name());
+  json.Name("menu").String(menu.name());
+  transcript_.End();
+}
 
 Answer HeadlessFrontEnd::Message(const Text& text, const Text& title, Icon icon, Buttons buttons) {
   const Answer answer = answers_.ToMessage(

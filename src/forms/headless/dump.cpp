@@ -3,9 +3,11 @@
 #include <span>
 
 #include "forms/common_dialog.h"
+#include "forms/headless/surface.h"
 #include "forms/list_controls.h"
 #include "forms/list_view.h"
 #include "forms/simple_controls.h"
+#include "forms/tree_view.h"
 
 namespace orvik::forms::headless {
 
@@ -59,6 +61,34 @@ void WriteRows(JsonWriter& json, const ListView& list) {
     json.Name("selected").Bool(row.selected).EndObject();
   }
   json.EndArray();
+}
+
+void WriteNodes(JsonWriter& json, const TreeView& tree) {
+  json.BeginArray();
+  for (int position = 1; position <= tree.count(); ++position) {
+    const TreeView::Node& node = tree.At(position);
+    json.BeginObject().Name("key").String(TextView(node.key));
+    json.Name("text").String(TextView(node.text));
+    json.Name("parent").Number(node.parent);
+    json.Name("checked").Bool(node.checked);
+    json.Name("expanded").Bool(node.expanded).EndObject();
+  }
+  json.EndArray();
+}
+
+void WriteDrawn(JsonWriter& json, const Surface& surface) {
+  json.BeginArray();
+  for (const DrawnLine& line : surface.lines()) {
+    json.BeginArray().Number(line.x1).Number(line.y1).Number(line.x2).Number(line.y2);
+    json.Number(line.color).EndArray();
+  }
+  json.EndArray();
+}
+
+void WriteRegion(JsonWriter& json, const RoundRegion& region) {
+  json.BeginArray().Number(region.left).Number(region.top);
+  json.Number(region.right).Number(region.bottom);
+  json.Number(region.corner_width).Number(region.corner_height).EndArray();
 }
 
 // The positions of the selected rows: what changes of the selection are told by.
@@ -118,6 +148,15 @@ constexpr Member kListView[] = {
     {"columns", [](JsonWriter& json, const Control& c) { WriteColumns(json, As<ListView>(c)); }},
     {"rows", [](JsonWriter& json, const Control& c) { WriteRows(json, As<ListView>(c)); }}};
 
+constexpr Member kTreeView[] = {
+    kVisible,
+    kEnabled,
+    {"nodes", [](JsonWriter& json, const Control& c) { WriteNodes(json, As<TreeView>(c)); }},
+    {"selected",
+     [](JsonWriter& json, const Control& c) { json.Number(As<TreeView>(c).selected()); }},
+    {"tooltip",
+     [](JsonWriter& json, const Control& c) { json.String(TextView(As<TreeView>(c).tooltip())); }}};
+
 constexpr Member kProgressBar[] = {
     kVisible,
     kEnabled,
@@ -170,7 +209,7 @@ KindInDump Describe(const Control& control) {
     case Kind::kListView:
       return {"ListView", kListView};
     case Kind::kTreeView:
-      return {"TreeView", kPlain};
+      return {"TreeView", kTreeView};
     case Kind::kProgressBar:
       return {"ProgressBar", kProgressBar};
     case Kind::kStatusBar:
@@ -211,6 +250,9 @@ void WriteForm(JsonWriter& json, const Form& form) {
   json.Name("width").Number(form.width());
   json.Name("height").Number(form.height());
   json.Name("topmost").Bool(form.topmost());
+  if (const Surface* surface = Surface::Of(form)) WriteDrawn(json.Name("drawn"), *surface);
+  if (form.skinned()) json.Name("transparency").Number(form.transparency());
+  if (form.region()) WriteRegion(json.Name("region"), *form.region());
   json.Name("controls").BeginObject();
   for (const Control* control : form.controls()) {
     WriteControl(json.Name(control->name()), *control);

@@ -7,6 +7,7 @@
 #include "forms/headless/dump.h"
 #include "forms/headless/native.h"
 #include "forms/headless/run_end.h"
+#include "forms/headless/surface.h"
 #include "forms/headless/user.h"
 #include "forms/headless/values.h"
 #include "host/host.h"
@@ -38,6 +39,8 @@ void HeadlessFrontEnd::Show(Form& form) {
   transcript_.Begin("show").Name("form").String(form.name());
   transcript_.End();
 }
+
+void HeadlessFrontEnd::Draw(Form& form, const DrawnLine& line) { Surface::Draw(form, line); }
 
 void HeadlessFrontEnd::Unload(Form& form) {
   if (!form.visible()) return;

@@ -26,6 +26,9 @@ class HeadlessFrontEnd : public FrontEnd {
 
   void Load(Form& form) override;
   void Show(Form& form) override;
+  void ShowModal(Form& form) override;
+  void PopUp(Menu& menu) override;
+  void Draw(Form& form, const DrawnLine& line) override;
   void Unload(Form& form) override;
   void Unloaded(Form& form) override;
   void Changed(Form& form, Change change) override;
@@ -43,6 +46,9 @@ class HeadlessFrontEnd : public FrontEnd {
   std::optional<Text> AskFolder(const Text& title, Form* owner) override;
   std::optional<Text> AskFileName(FileDialog dialog, const Text& filter, Form* owner) override;
   void PutOnClipboard(const Text& text) override;
+  // The mouse of a script stays where it is.
+  void Drag(Form&) override {}
+  TwipsPerPixel Scale() override { return {}; }
 
  private:
   void TakeAhead();

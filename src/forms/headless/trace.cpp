@@ -3,6 +3,7 @@
 #include "forms/headless/dump.h"
 #include "forms/list_controls.h"
 #include "forms/list_view.h"
+#include "forms/tree_view.h"
 
 namespace orvik::forms::headless {
 
@@ -55,9 +56,18 @@ const Text& TextAt(const Control& control, int position) {
       return static_cast<const ComboBox&>(control).Item(position);
     case Kind::kListView:
       return static_cast<const ListView&>(control).At(position).text;
+    case Kind::kTreeView:
+      return static_cast<const TreeView&>(control).At(position).text;
     default:
       return static_cast<const ListBox&>(control).Item(position);
   }
+}
+
+bool CheckedAt(const Control& control, int position) {
+  if (control.kind() == Kind::kTreeView) {
+    return static_cast<const TreeView&>(control).At(position).checked;
+  }
+  return static_cast<const ListBox&>(control).Checked(position);
 }
 
 const ListView::Row& RowAt(const Control& control, int position) {
@@ -123,8 +133,7 @@ void Tracer::Changed(const Control& control, Change change) {
       Begin(form, control.name(), at("color")).Number(RowAt(control, change.position).color);
       break;
     case Property::kChecked:
-      Begin(form, control.name(), at("checked"))
-          .Bool(static_cast<const ListBox&>(control).Checked(change.position));
+      Begin(form, control.name(), at("checked")).Bool(CheckedAt(control, change.position));
       break;
     case Property::kRemove:
       Begin(form, control.name(), at("remove")).Null();

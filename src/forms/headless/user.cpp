@@ -6,6 +6,7 @@
 #include "forms/list_controls.h"
 #include "forms/list_view.h"
 #include "forms/simple_controls.h"
+#include "forms/tree_view.h"
 
 namespace orvik::forms::headless {
 
@@ -62,6 +63,8 @@ std::optional<Entries> EntriesOf(const Control& control) {
       return Entries{0, static_cast<const ComboBox&>(control).count()};
     case Kind::kListView:
       return Entries{1, static_cast<const ListView&>(control).count()};
+    case Kind::kTreeView:
+      return Entries{1, static_cast<const TreeView&>(control).count()};
     default:
       return std::nullopt;
   }
@@ -88,6 +91,8 @@ void MakeCurrent(Control& control, int position) {
     static_cast<ListBox&>(control).UserSelect({position}, ListBox::Follow::kNothing);
   } else if (control.kind() == Kind::kListView) {
     static_cast<ListView&>(control).UserSelect({position});
+  } else if (control.kind() == Kind::kTreeView) {
+    static_cast<TreeView&>(control).UserSelect(position);
   }
 }
 
@@ -99,6 +104,9 @@ std::string ClickEntry(Control& control, int position) {
       return {};
     case Kind::kListView:
       static_cast<ListView&>(control).UserClick(position);
+      return {};
+    case Kind::kTreeView:
+      static_cast<TreeView&>(control).UserClick(position);
       return {};
     case Kind::kComboBox:
       if (static_cast<ComboBox&>(control).locked()) return control.name() + " is locked";
@@ -158,6 +166,11 @@ std::string Do(const Check& event) {
     if (why.empty()) list.UserCheck(*event.position, event.on);
     return why;
   }
+  if (control->kind() == Kind::kTreeView && event.position) {
+    why = Lacks(*control, *event.position);
+    if (why.empty()) static_cast<TreeView&>(*control).UserCheck(*event.position, event.on);
+    return why;
+  }
   return Name(event.target) + " has no such box";
 }
 
@@ -196,6 +209,10 @@ std::string Do(const Select& event) {
     case Kind::kListView:
       static_cast<ListView&>(*control).UserSelect(event.positions);
       return {};
+    case Kind::kTreeView:
+      if (event.positions.size() > 1) return control->name() + " takes one selected node";
+      static_cast<TreeView&>(*control).UserSelect(event.positions.empty() ? 0 : event.positions[0]);
+      return {};
     case Kind::kComboBox:
       if (event.positions.size() != 1) return control->name() + " takes one entry";
       return ClickEntry(*control, event.positions[0]);
@@ -224,11 +241,22 @@ std::string Do(const MouseButton& event) {
 
 namespace {
 
+// What a control does with a key that no handler took away.
+void ActByItself(Control& control, Key key) {
+  constexpr int kSpace = 32;
+  if (control.kind() == Kind::kTreeView && key.code == kSpace) {
+    static_cast<TreeView&>(control).UserSpace();
+  }
+}
+
 // Down, press and up of one key, at a form or a control. A handler that takes the key away at its
 // going down keeps the character back. A form that has gone meanwhile hears no more.
 template <typename Receiver>
 void Strike(Receiver& receiver, const Form& form, Key key) {
   const bool passed = receiver.UserKeyDown(key);
+  if constexpr (std::is_same_v<Receiver, Control>) {
+    if (passed && form.loaded()) ActByItself(receiver, key);
+  }
   const int character = CharacterOf(key);
   if (passed && character != 0 && form.loaded()) receiver.UserKeyPress(character);
   if (form.loaded()) receiver.UserKeyUp(key);

@@ -17,6 +17,9 @@ class WindowsFrontEnd : public FrontEnd {
 
   void Load(Form& form) override;
   void Show(Form& form) override;
+  void ShowModal(Form& form) override;
+  void PopUp(Menu& menu) override;
+  void Draw(Form& form, const DrawnLine& line) override;
   void Unload(Form& form) override;
   void Unloaded(Form& form) override;
   void Changed(Form& form, Change change) override;
@@ -33,6 +36,8 @@ class WindowsFrontEnd : public FrontEnd {
   std::optional<Text> AskFolder(const Text& title, Form* owner) override;
   std::optional<Text> AskFileName(FileDialog dialog, const Text& filter, Form* owner) override;
   void PutOnClipboard(const Text& text) override;
+  void Drag(Form& form) override;
+  TwipsPerPixel Scale() override;
 
  private:
   // The window that a dialog belongs to: that of the form, or of the active one without a form.

@@ -3,7 +3,9 @@
 #include "forms/form.h"
 #include "forms/instance.h"
 #include "forms/list_controls.h"
+#include "forms/menu.h"
 #include "forms/simple_controls.h"
+#include "forms/tree_view.h"
 
 namespace orvik::test {
 
@@ -63,6 +65,9 @@ std::string Describe(const Control& control, Change change) {
       if (const auto* combo = dynamic_cast<const forms::ComboBox*>(&control)) {
         return what + ToUtf8(combo->Item(change.position));
       }
+      if (const auto* tree = dynamic_cast<const forms::TreeView*>(&control)) {
+        return what + ToUtf8(tree->At(change.position).text);
+      }
       return what;
     }
     case Property::kRemove:
@@ -83,6 +88,18 @@ TestFrontEnd::~TestFrontEnd() { forms::ForgetForms(); }
 void TestFrontEnd::Load(Form&) {}
 
 void TestFrontEnd::Show(Form& form) { events.push_back("show " + form.name()); }
+
+void TestFrontEnd::ShowModal(Form& form) {
+  events.push_back("modal " + form.name());
+  if (on_modal) on_modal(form);
+  form.UserClose();
+}
+
+void TestFrontEnd::PopUp(forms::Menu& menu) { events.push_back("popup " + menu.name()); }
+
+void TestFrontEnd::Draw(Form&, const forms::DrawnLine& line) { drawn.push_back(line); }
+
+void TestFrontEnd::Drag(Form& form) { events.push_back("drag " + form.name()); }
 
 void TestFrontEnd::Unload(Form& form) {
   if (form.visible()) events.push_back("unload " + form.name());

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "forms/form.h"
 #include "forms/front_end.h"
 #include "unit/support/fake_host.h"
 
@@ -25,7 +26,7 @@ class TestFrontEnd : public forms::FrontEnd {
 
   // What happened, in order: "show frmX", "unload frmX", "message T|title|icon|buttons",
   // "input prompt|title", "browse title", "open filter", "save filter", "clipboard text",
-  // "wait 1000".
+  // "wait 1000", "modal frmX", "popup mnX", "drag frmX".
   std::vector<std::string> events;
   // Changes of the forms and controls of loaded forms: "frmX.caption text", "frmX.cb.add text".
   // Only those that a test is likely to ask for; see Describe.
@@ -38,11 +39,18 @@ class TestFrontEnd : public forms::FrontEnd {
   std::deque<Text> input_answers;
   std::deque<std::optional<Text>> folder_answers;
   std::deque<std::optional<Text>> file_answers;
+  // What the user does to a form that is shown modally; the form is closed behind it.
+  std::function<void(forms::Form&)> on_modal;
+  std::vector<forms::DrawnLine> drawn;
+  forms::TwipsPerPixel scale;
   // Runs inside each yield, with its number from 1.
   std::function<void(int)> on_yield;
 
   void Load(forms::Form& form) override;
   void Show(forms::Form& form) override;
+  void ShowModal(forms::Form& form) override;
+  void PopUp(forms::Menu& menu) override;
+  void Draw(forms::Form& form, const forms::DrawnLine& line) override;
   void Unload(forms::Form& form) override;
   void Unloaded(forms::Form& form) override;
   void Changed(forms::Form& form, forms::Change change) override;
@@ -59,6 +67,8 @@ class TestFrontEnd : public forms::FrontEnd {
   std::optional<Text> AskFileName(forms::FileDialog dialog, const Text& filter,
                                   forms::Form* owner) override;
   void PutOnClipboard(const Text& text) override;
+  void Drag(forms::Form& form) override;
+  forms::TwipsPerPixel Scale() override { return scale; }
 
  private:
   FakeSystem* system_;

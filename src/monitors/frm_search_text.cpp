@@ -1,0 +1,53 @@
+#include "monitors/frm_search_text.h"
+
+#include "base/failure.h"
+#include "fileengine/paths.h"
+#include "host/registry.h"
+#include "platform/reg_list.h"
+#include "startup/globals.h"
+
+namespace orvik {
+
+frmSearchText::frmSearchText() : Form("frmSearchText", u"Поиск текста", 8070, 6150) {
+  MakeSizable();
+  cbPattern.PutInto(rmPattern);
+  btFind.on_click = [this] { FindText(); };
+  txMain.on_key_down = [this](forms::Key& key) {
+    if (key.code != forms::kKeyEnter) return;
+    key.code = 0;
+    FindText();
+  };
+}
+
+void frmSearchText::OnLoad() {
+  Attempt([&] {
+    SetCaption(Text(mdlMain::ProgramTitle) + u" -  Поиск текста " +
+               mdlSupport::ShortenPath(mdlMain::CommandArgs));
+  });
+  // The patterns are those of the duplicate search. They are only read here.
+  mdlMain::LoadPatternCombo(cbPattern, host::kLocalMachine, mdlMain::DoublesPatternKey);
+  Show();
+}
+
+void frmSearchText::OnResize() {
+  const forms::Bounds list = lbMain.bounds();
+  const int width = this->width() - forms::kFrameWidth - 2 * list.left;
+  const int height = this->height() - forms::kFrameHeight - list.top - list.left;
+  lbMain.Move({list.left, list.top, width, height});
+}
+
+void frmSearchText::FindText() {
+  if (Trim(cbPattern.text()).empty()) cbPattern.SetText(u"*.*");
+  lbMain.Clear();
+  lbMain.Add(u"Обработка");
+  // The scan doesn't yield.
+  lbMain.Repaint();
+  // Copies: the user may type while the walk yields.
+  const Text text = txMain.text();
+  const Text masks = cbPattern.text();
+  const KeyedCollection found = mdlMain::SearchTextInFiles(text, mdlMain::CommandArgs, masks);
+  lbMain.Clear();
+  for (std::size_t i = 1; i <= found.Count(); ++i) lbMain.Add(found.Item(i));
+}
+
+}  // namespace orvik
