@@ -100,7 +100,8 @@ LRESULT ControlView::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       break;
     case WM_SETCURSOR:
       // A label that does something when clicked says so.
-      if (control().kind() == Kind::kLabel && control().on_click && control().Reachable()) {
+      if (control().kind() == Kind::kLabel && control().on_click && control().Reachable() &&
+          !control().form().skinned()) {
         SetCursor(LoadCursorW(nullptr, IDC_HAND));
         return TRUE;
       }

@@ -34,6 +34,11 @@ class ControlView : public Adapter {
   virtual void OnCommand(WORD /*code*/) {}
   // The answer to the message, or nothing for the system's own handling.
   virtual std::optional<LRESULT> OnNotify(NMHDR& /*header*/) { return std::nullopt; }
+  // The window is about to be drawn: the brush of its background, with the colours of the text set,
+  // or nullptr for the system's.
+  virtual HBRUSH OnColor(HDC /*context*/) { return nullptr; }
+  // A window that leaves its drawing to its owner is to be drawn.
+  virtual void OnDraw(const DRAWITEMSTRUCT& /*draw*/) {}
   // The keyboard came to the control, or left it.
   virtual void OnFocus(bool /*here*/) {}
   // The window needs Enter or Esc for itself now.

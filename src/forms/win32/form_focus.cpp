@@ -33,6 +33,12 @@ Control* FormWindow::Focused() const {
   return view != nullptr ? &view->control() : nullptr;
 }
 
+void FormWindow::OnFocus() {
+  if (last_focus_ != nullptr && FocusIfPossible(*last_focus_)) return;
+  // A strip that has just appeared must not lie with its exit under the user's next Enter.
+  if (!form_.skinned()) MoveFocus(1);
+}
+
 void FormWindow::MoveFocus(int step) {
   const auto& controls = form_.controls();
   const int count = static_cast<int>(controls.size());

@@ -22,12 +22,13 @@ constexpr int Smallest(int design) { return design * 2 / 3; }
 }  // namespace
 
 SIZE FormWindow::ClientSize() const {
+  if (form_.skinned()) return {metrics_->Pixels(form_.width()), metrics_->Pixels(form_.height())};
   return {metrics_->Pixels(form_.width() - kFrameWidth),
           metrics_->Pixels(form_.height() - kFrameHeight)};
 }
 
 SIZE FormWindow::Size() const {
-  return OuterSize(ClientSize(), style_, WS_EX_CONTROLPARENT, metrics_->dpi());
+  return OuterSize(ClientSize(), style_, extended_style_, metrics_->dpi());
 }
 
 RECT FormWindow::AreaOf(const Control& control) const {
@@ -106,6 +107,7 @@ void FormWindow::OnResolution(int dpi, const RECT& suggested) {
     if (control->view() == nullptr) continue;
     if (auto* view = dynamic_cast<ControlView*>(control->view())) view->Rescale();
   }
+  ShowSkin();
   InvalidateRect(window_, nullptr, TRUE);
 }
 

@@ -32,7 +32,27 @@ bool AnyAnchored(const Form& form) {
   return false;
 }
 
-constexpr DWORD kStyle = WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
+bool MayWiden(const Form& form) { return !form.skinned() && (form.sizable() || AnyAnchored(form)); }
+
+DWORD StyleOf(const Form& form) {
+  DWORD style = WS_SYSMENU | WS_CLIPCHILDREN | (form.skinned() ? WS_POPUP : WS_CAPTION);
+  // A form in front of another one is minimised with it.
+  if (form.owner() == nullptr) style |= WS_MINIMIZEBOX;
+  if (MayWiden(form)) style |= WS_THICKFRAME;
+  if (form.sizable()) style |= WS_MAXIMIZEBOX;
+  return style;
+}
+
+DWORD ExtendedStyleOf(const Form& form) {
+  // What has no title bar gets no button in the task bar by itself.
+  return WS_EX_CONTROLPARENT | (form.skinned() ? WS_EX_APPWINDOW : 0U);
+}
+
+// The window that a form is to stay in front of.
+HWND OwnerOf(const Form& form) {
+  const Form* owner = form.owner();
+  return owner != nullptr && owner->view() != nullptr ? WindowOf(*owner).window() : nullptr;
+}
 
 // The monitor that the user is looking at.
 HMONITOR PresentMonitor() {
@@ -50,8 +70,9 @@ FormWindow::FormWindow(Form& form, Desk& desk)
       desk_(desk),
       design_width_(form.width()),
       design_height_(form.height()),
-      widens_(form.sizable() || AnyAnchored(form)),
-      style_(kStyle | (widens_ ? WS_THICKFRAME : 0U) | (form.sizable() ? WS_MAXIMIZEBOX : 0U)),
+      widens_(MayWiden(form)),
+      style_(StyleOf(form)),
+      extended_style_(ExtendedStyleOf(form)),
       metrics_(std::make_unique<Metrics>(DpiOf(PresentMonitor()))) {
   desk_.Enter(*this);
   MakeWindow();
@@ -68,11 +89,12 @@ void FormWindow::MakeWindow() {
   RegisterClassOf(class_name, &Procedure);
   const SIZE size = Size();
   resizing_ = true;
-  window_ = CreateWindowExW(WS_EX_CONTROLPARENT, Wide(class_name), Wide(form_.caption()), style_,
-                            CW_USEDEFAULT, CW_USEDEFAULT, size.cx, size.cy, nullptr, nullptr,
+  window_ = CreateWindowExW(extended_style_, Wide(class_name), Wide(form_.caption()), style_,
+                            CW_USEDEFAULT, CW_USEDEFAULT, size.cx, size.cy, OwnerOf(form_), nullptr,
                             GetModuleHandleW(nullptr), this);
   resizing_ = false;
   tag_.Put(window_, form_.name());
+  TagItems();
   // The system may have put it on another monitor.
   if (DpiOf(window_) != metrics_->dpi()) metrics_ = std::make_unique<Metrics>(DpiOf(window_));
   // Without an owner: Wine wouldn't put a form on top that owns a window on top.
@@ -82,14 +104,31 @@ void FormWindow::MakeWindow() {
 }
 
 void FormWindow::Close() {
-  if (window_ == nullptr) return;
   desk_.Leave(*this);
+  if (window_ == nullptr) return;
+  // The system hands the keyboard to a window that can take it, so those of the other forms can
+  // again before this one goes.
+  modal_.reset();
   DestroyWindow(hints_);
   DestroyWindow(window_);
 }
 
+void FormWindow::BecomeModal(HWND owner) {
+  SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
+  SetWindowLongW(window_, GWL_STYLE,
+                 static_cast<LONG>(style_ & ~static_cast<DWORD>(WS_MINIMIZEBOX)));
+  modal_ = std::make_unique<OtherFormsDisabled>(desk_, window_);
+  desk_.refresher().Flush();
+  for (const Control* control : form_.controls()) {
+    if (control->kind() != Kind::kTextBox) continue;
+    SendMessageW(static_cast<const ControlView&>(*control->view()).window(), EM_SETSEL, 0, -1);
+    return;
+  }
+}
+
 void FormWindow::Show() {
-  if (form_.place() == Form::Place::kCentre) {
+  // The system has no place of its own for a window without a title bar.
+  if (form_.place() == Form::Place::kCentre || form_.skinned()) {
     Centre();
   } else {
     // The system may have chosen a monitor of another resolution.
@@ -110,6 +149,7 @@ void FormWindow::Refresh(Changes changes) {
     SetWindowPos(window_, form_.topmost() ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
+  if ((changes & Bit(Property::kSkin)) != 0) ShowSkin();
 }
 
 HWND FormWindow::ParentOf(const Control& control) const {
@@ -139,6 +179,18 @@ void FormWindow::AddHint(const ControlView& view) {
   SendMessageW(hints_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
+void FormWindow::SetTooltip(const ControlView& view, const Text& text) {
+  TTTOOLINFOW tool{};
+  tool.cbSize = sizeof tool;
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = view.window();
+  tool.uId = reinterpret_cast<UINT_PTR>(view.window());
+  // A new tool shows even where the mouse has been resting over the old one.
+  SendMessageW(hints_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  tool.lpszText = text.empty() ? LPSTR_TEXTCALLBACKW : const_cast<wchar_t*>(Wide(text));
+  SendMessageW(hints_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
 bool FormWindow::FromControl(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result) const {
   if (lparam == 0) return false;
   result = 0;
@@ -147,6 +199,19 @@ bool FormWindow::FromControl(UINT message, WPARAM wparam, LPARAM lparam, LRESULT
     if (view == nullptr) return false;
     view->OnCommand(HIWORD(wparam));
     return true;
+  }
+  if (message == WM_CTLCOLORSTATIC) {
+    ControlView* view = ControlView::Of(reinterpret_cast<HWND>(lparam));
+    const HBRUSH brush = view != nullptr ? view->OnColor(reinterpret_cast<HDC>(wparam)) : nullptr;
+    result = reinterpret_cast<LRESULT>(brush);
+    return brush != nullptr;
+  }
+  if (message == WM_DRAWITEM) {
+    const auto& draw = *reinterpret_cast<const DRAWITEMSTRUCT*>(lparam);
+    // A menu has no window.
+    ControlView* view = draw.CtlType != ODT_MENU ? ControlView::Of(draw.hwndItem) : nullptr;
+    if (view != nullptr) view->OnDraw(draw);
+    return view != nullptr;
   }
   if (message != WM_NOTIFY) return false;
   auto& header = *reinterpret_cast<NMHDR*>(lparam);
@@ -186,8 +251,19 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_TIMER:
       OnTimer(wparam);
       return 0;
+    case WM_COMMAND:
+      // Controls were served above.
+      if (lparam == 0 && HIWORD(wparam) == 0) OnMenu(LOWORD(wparam));
+      return 0;
+    case WM_PAINT:
+      if (surface_.empty()) break;
+      Paint();
+      return 0;
+    case WM_ERASEBKGND:
+      if (Erase(reinterpret_cast<HDC>(wparam))) return 1;
+      break;
     case WM_SETFOCUS:
-      if (last_focus_ == nullptr || !FocusIfPossible(*last_focus_)) MoveFocus(1);
+      OnFocus();
       return 0;
     case WM_ACTIVATE:
       if (LOWORD(wparam) == WA_INACTIVE) last_focus_ = Focused();
@@ -217,6 +293,13 @@ LRESULT FormWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   return DefWindowProcW(window_, message, wparam, lparam);
 }
 
+void FormWindow::Destroyed() {
+  tag_.Remove();
+  menu_tag_.Remove();
+  UntagItems();
+  window_ = nullptr;
+}
+
 LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wparam,
                                        LPARAM lparam) noexcept {
   if (message == WM_NCCREATE) {
@@ -228,8 +311,7 @@ LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wparam,
   auto* self = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (self == nullptr) return DefWindowProcW(window, message, wparam, lparam);
   if (message != WM_NCDESTROY) return self->OnMessage(message, wparam, lparam);
-  self->tag_.Remove();
-  self->window_ = nullptr;
+  self->Destroyed();
   SetWindowLongPtrW(window, GWLP_USERDATA, 0);
   return DefWindowProcW(window, message, wparam, lparam);
 }

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "forms/form.h"
 #include "forms/win32/desk.h"
 #include "forms/win32/metrics.h"
 #include "forms/win32/name_tag.h"
+#include "forms/win32/surface.h"
 #include "forms/win32/taskbar_button.h"
 
 namespace orvik::forms::win32 {
@@ -29,10 +31,30 @@ class FormWindow : public View, public Shown {
 
   // Brings the form in front of the user, with the keyboard in its first field.
   void Show();
+  // To be called ahead of Show: until the window closes no other form answers. It lies in front of
+  // `owner`, and its first field comes up with its text selected.
+  void BecomeModal(HWND owner);
   // Destroys the window. The object stays until its routines have returned.
   void Close();
   void Changed(Property property) { desk_.refresher().Mark(*this, property); }
   void Refresh(Changes changes) override;
+
+  void Draw(const DrawnLine& line);
+  void Drag();
+  // Opens a menu of the form and comes back when it has closed.
+  void PopUp(Menu& menu);
+
+  // While this lives menus open at a place of the screen, not at the mouse.
+  class MenuPlace {
+   public:
+    MenuPlace(FormWindow& form, POINT at);
+    ~MenuPlace();
+    MenuPlace(const MenuPlace&) = delete;
+    MenuPlace& operator=(const MenuPlace&) = delete;
+
+   private:
+    FormWindow& form_;
+  };
 
   // The control that has the keyboard; nullptr when none has.
   Control* Focused() const;
@@ -54,6 +76,9 @@ class FormWindow : public View, public Shown {
   // as the user has widened the form.
   RECT AreaOf(const Control& control) const;
   void AddHint(const ControlView& view);
+  // What is shown when the mouse rests over a control; of an empty text the control is asked each
+  // time, by TTN_GETDISPINFOW.
+  void SetTooltip(const ControlView& view, const Text& text);
   // Hands on what a control's window tells its parent, whichever window that is. False when it is
   // for no view.
   bool FromControl(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result) const;
@@ -68,6 +93,14 @@ class FormWindow : public View, public Shown {
   void OnUserSize(SIZE client);
   void OnResolution(int dpi, const RECT& suggested);
   void OnTimer(UINT_PTR id) const;
+  void OnMenu(UINT_PTR id) const;
+  void TagItems();
+  void UntagItems();
+  void ShowSkin();
+  void Paint() const;
+  bool Erase(HDC context) const;
+  void OnFocus();
+  void Destroyed();
   void LimitSize(MINMAXINFO& limits) const;
   LRESULT HitTest(WPARAM wparam, LPARAM lparam) const;
   void Fit(POINT& corner, SIZE size) const;
@@ -85,13 +118,19 @@ class FormWindow : public View, public Shown {
   // width.
   const bool widens_;
   const DWORD style_;
+  const DWORD extended_style_;
   std::unique_ptr<Metrics> metrics_;
   HWND window_ = nullptr;
   HWND hints_ = nullptr;
   NameTag tag_;
+  NameTag menu_tag_{L"Orvik.Menu"};
   TaskbarButton taskbar_button_;
   Control* last_focus_ = nullptr;
   bool resizing_ = false;
+  Surface surface_;
+  int region_dpi_ = 0;
+  std::optional<POINT> menu_place_;
+  std::unique_ptr<OtherFormsDisabled> modal_;
 };
 
 // The window of a loaded form.

@@ -20,6 +20,38 @@ DWORD CutStyle(const Label& label) {
 LabelView::LabelView(Label& label, FormWindow& form) : ControlView(label, form), label_(label) {
   // A path may hold an ampersand, which is no underlining here.
   Create(L"STATIC", label.caption(), SS_LEFT | SS_NOTIFY | SS_NOPREFIX | CutStyle(label));
+  ShowFont();
+}
+
+LabelView::~LabelView() {
+  if (font_ != nullptr) DeleteObject(font_);
+}
+
+void LabelView::Rescale() {
+  ControlView::Rescale();
+  ShowFont();
+}
+
+void LabelView::ShowFont() {
+  const auto& style = label_.style();
+  if (!style || (!style->bold && !style->serif)) return;
+  const HFONT font = form().metrics().MakeFont(style->bold, style->serif);
+  Send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+  if (font_ != nullptr) DeleteObject(font_);
+  font_ = font;
+}
+
+HBRUSH LabelView::OnColor(HDC context) {
+  const bool skinned = control().form().skinned();
+  if (!skinned && !label_.style()) return nullptr;
+  if (label_.style()) {
+    SetTextColor(context, label_.style()->color);
+  } else {
+    SetTextColor(context, RGB(255, 255, 255));
+  }
+  SetBkMode(context, TRANSPARENT);
+  return skinned ? static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH))
+                 : GetSysColorBrush(COLOR_BTNFACE);
 }
 
 RECT LabelView::Area() const {
@@ -47,7 +79,10 @@ void LabelView::OnCommand(WORD code) {
   }
 }
 
-bool LabelView::TakesFocus() const { return static_cast<bool>(label_.on_click); }
+bool LabelView::TakesFocus() const {
+  // On a form without a title bar such labels are there to drag it by.
+  return label_.on_click && !control().form().skinned();
+}
 
 bool LabelView::PressEnter() {
   return Deliver([&] { control().UserClick(); });

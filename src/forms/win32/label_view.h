@@ -9,6 +9,9 @@ namespace orvik::forms::win32 {
 class LabelView : public ControlView {
  public:
   LabelView(Label& label, FormWindow& form);
+  ~LabelView() override;
+  void Rescale() override;
+  HBRUSH OnColor(HDC context) override;
   void Refresh(Changes changes) override;
   void OnCommand(WORD code) override;
   void OnFocus(bool here) override;
@@ -21,7 +24,11 @@ class LabelView : public ControlView {
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
 
  private:
+  // Sets the font of a label in a style of its own.
+  void ShowFont();
+
   const Label& label_;
+  HFONT font_ = nullptr;
 };
 
 }  // namespace orvik::forms::win32

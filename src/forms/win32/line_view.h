@@ -13,6 +13,12 @@ class LineView : public ControlView {
 
  protected:
   RECT Area() const override;
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+
+ private:
+  void Paint() const;
+
+  const Line& line_;
 };
 
 }  // namespace orvik::forms::win32

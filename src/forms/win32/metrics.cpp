@@ -50,6 +50,16 @@ Metrics::Metrics(int dpi) : dpi_(dpi) {
 
 Metrics::~Metrics() { DeleteObject(font_); }
 
+HFONT Metrics::MakeFont(bool bold, bool serif) const {
+  LOGFONTW description = MessageFont(dpi_);
+  if (bold) description.lfWeight = FW_BOLD;
+  if (serif) {
+    description.lfPitchAndFamily = FF_ROMAN | VARIABLE_PITCH;
+    wcscpy(description.lfFaceName, L"Times New Roman");
+  }
+  return CreateFontIndirectW(&description);
+}
+
 int Metrics::TextWidth(const Text& text) const {
   const ScreenContext screen;
   const Selected selected(screen.get(), font_);

@@ -16,6 +16,8 @@ class Metrics {
   int dpi() const { return dpi_; }
   // The system's message font.
   HFONT font() const { return font_; }
+  // A font like it, bold or with serifs, which the caller deletes.
+  HFONT MakeFont(bool bold, bool serif) const;
   // The height of a line of text in pixels.
   int line_height() const { return line_height_; }
 

@@ -8,10 +8,10 @@
 namespace orvik::forms::win32 {
 
 // The property "Orvik.Name" of a window is a global atom with the name of its form or control, in
-// the code's own spelling ("frCRC(0)").
+// the code's own spelling ("frCRC(0)"). Other properties of a window hold other names.
 class NameTag {
  public:
-  NameTag() = default;
+  explicit NameTag(const wchar_t* property = L"Orvik.Name") : property_(property) {}
   ~NameTag() { Remove(); }
   NameTag(const NameTag&) = delete;
   NameTag& operator=(const NameTag&) = delete;
@@ -21,6 +21,8 @@ class NameTag {
   void Remove();
 
  private:
+  const wchar_t* property_;
+  HWND window_ = nullptr;
   ATOM atom_ = 0;
 };
 

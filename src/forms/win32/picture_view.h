@@ -13,6 +13,7 @@ class PictureView : public ControlView {
   ~PictureView() override;
   void Rescale() override;
   void OnCommand(WORD code) override;
+  void OnDraw(const DRAWITEMSTRUCT& draw) override;
   bool TakesFocus() const override { return true; }
   bool PressEnter() override;
   bool LetsArrowsGo() const override { return true; }

@@ -16,6 +16,7 @@
 #include "forms/win32/status_bar_view.h"
 #include "forms/win32/text_box_view.h"
 #include "forms/win32/timer_view.h"
+#include "forms/win32/tree_view_view.h"
 #include "forms/win32/up_down_view.h"
 
 namespace orvik::forms::win32 {
@@ -62,10 +63,10 @@ std::unique_ptr<Adapter> MakeView(Control& control, FormWindow& form) {
       return Make<PictureView, Picture>(control, form);
     case Kind::kLine:
       return Make<LineView, Line>(control, form);
-    // No form has these yet.
-    case Kind::kMenu:
     case Kind::kTreeView:
-    // Has no window of its own.
+      return Make<TreeViewView, TreeView>(control, form);
+    // These have no window of their own.
+    case Kind::kMenu:
     case Kind::kCommonDialog:
       break;
   }

@@ -3,6 +3,7 @@
 #include <objbase.h>
 
 #include "forms/form.h"
+#include "forms/menu.h"
 #include "forms/win32/dialogs.h"
 #include "forms/win32/form_window.h"
 #include "forms/win32/view_factory.h"
@@ -14,7 +15,8 @@ WindowsFrontEnd::WindowsFrontEnd() : loop_(desk_) {
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
   const INITCOMMONCONTROLSEX controls{
       sizeof controls, ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES | ICC_LISTVIEW_CLASSES |
-                           ICC_PROGRESS_CLASS | ICC_BAR_CLASSES | ICC_UPDOWN_CLASS};
+                           ICC_TREEVIEW_CLASSES | ICC_PROGRESS_CLASS | ICC_BAR_CLASSES |
+                           ICC_UPDOWN_CLASS};
   InitCommonControlsEx(&controls);
 }
 
@@ -33,17 +35,27 @@ void WindowsFrontEnd::Load(Form& form) {
 void WindowsFrontEnd::Show(Form& form) { WindowOf(form).Show(); }
 
 void WindowsFrontEnd::ShowModal(Form& form) {
-  WindowOf(form).Show();
+  FormWindow& window = WindowOf(form);
+  window.BecomeModal(Owner(nullptr));
+  window.Show();
   while (form.loaded() && loop_.WaitForInput(-1)) loop_.Yield();
 }
 
-void WindowsFrontEnd::PopUp(Menu& /*menu*/) {}
+void WindowsFrontEnd::PopUp(Menu& menu) { WindowOf(menu.form()).PopUp(menu); }
 
-void WindowsFrontEnd::Draw(Form& /*form*/, const DrawnLine& /*line*/) {}
+void WindowsFrontEnd::Draw(Form& form, const DrawnLine& line) { WindowOf(form).Draw(line); }
 
-void WindowsFrontEnd::Drag(Form& /*form*/) {}
+void WindowsFrontEnd::Drag(Form& form) {
+  if (form.view() != nullptr) WindowOf(form).Drag();
+}
 
-TwipsPerPixel WindowsFrontEnd::Scale() { return {}; }
+TwipsPerPixel WindowsFrontEnd::Scale() {
+  constexpr double kTwipsPerInch = 1440;
+  const FormWindow* active = desk_.Active();
+  if (active == nullptr && !desk_.windows().empty()) active = desk_.windows().back();
+  const double twips = kTwipsPerInch / (active != nullptr ? active->metrics().dpi() : 96);
+  return {twips, twips};
+}
 
 void WindowsFrontEnd::Unload(Form& /*form*/) {}
 

@@ -1,0 +1,51 @@
+// What a form draws by itself: its lines, and all of a form without border and title bar.
+#include "forms/win32/form_window.h"
+
+namespace orvik::forms::win32 {
+
+void FormWindow::Draw(const DrawnLine& line) {
+  surface_.Add(line);
+  const RECT area = win32::AreaOf(line, *metrics_);
+  InvalidateRect(window_, &area, TRUE);
+}
+
+void FormWindow::Drag() {
+  ReleaseCapture();
+  SendMessageW(window_, WM_NCLBUTTONDOWN, HTCAPTION, 0);
+}
+
+void FormWindow::ShowSkin() {
+  if (!form_.skinned()) return;
+  constexpr int kOpaque = 255;
+  if (form_.transparency() < kOpaque) {
+    SetWindowLongW(window_, GWL_EXSTYLE, GetWindowLongW(window_, GWL_EXSTYLE) | WS_EX_LAYERED);
+    SetLayeredWindowAttributes(window_, 0, static_cast<BYTE>(form_.transparency()), LWA_ALPHA);
+  }
+  if (!form_.region()) return;
+  if (region_dpi_ == 0) region_dpi_ = metrics_->dpi();
+  // The form has given it in pixels of the resolution that it was on.
+  const auto scaled = [&](int pixels) { return MulDiv(pixels, metrics_->dpi(), region_dpi_); };
+  const RoundRegion& region = *form_.region();
+  const HRGN shape = CreateRoundRectRgn(scaled(region.left), scaled(region.top),
+                                        scaled(region.right), scaled(region.bottom),
+                                        scaled(region.corner_width), scaled(region.corner_height));
+  // The region is the window's from here on.
+  if (SetWindowRgn(window_, shape, TRUE) == 0) DeleteObject(shape);
+}
+
+void FormWindow::Paint() const {
+  PAINTSTRUCT paint;
+  const HDC context = BeginPaint(window_, &paint);
+  surface_.Paint(context, *metrics_);
+  EndPaint(window_, &paint);
+}
+
+bool FormWindow::Erase(HDC context) const {
+  if (!form_.skinned()) return false;
+  RECT all;
+  GetClientRect(window_, &all);
+  FillRect(context, &all, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+  return true;
+}
+
+}  // namespace orvik::forms::win32
