@@ -3,6 +3,7 @@
 //
 //   orvik-bench-engine walk FOLDER   WalkFiles
 //   orvik-bench-engine fast FOLDER   WalkFiles, then the fast checksum of each file
+//   orvik-bench-engine blocks FOLDER the same with the blocks of a duplicate search
 //   orvik-bench-engine full FILE     the full checksum of a file
 //
 // Paths are Linux paths. Prints the number of files, and behind it the sum of their checksums.
@@ -28,6 +29,9 @@ class NoFrontEnd : public forms::FrontEnd {
  public:
   void Load(forms::Form&) override {}
   void Show(forms::Form&) override {}
+  void ShowModal(forms::Form&) override {}
+  void PopUp(forms::Menu&) override {}
+  void Draw(forms::Form&, const forms::DrawnLine&) override {}
   void Unload(forms::Form&) override {}
   void Unloaded(forms::Form&) override {}
   void Changed(forms::Form&, forms::Change) override {}
@@ -46,6 +50,8 @@ class NoFrontEnd : public forms::FrontEnd {
     return std::nullopt;
   }
   void PutOnClipboard(const Text&) override {}
+  void Drag(forms::Form&) override {}
+  forms::TwipsPerPixel Scale() override { return {}; }
 };
 
 std::vector<Text> Walk(Text root) {
@@ -59,7 +65,7 @@ std::vector<Text> Walk(Text root) {
 int main(int argc, char** argv) {
   const std::vector<std::string> arguments(argv + 1, argv + argc);
   if (arguments.size() != 2 || !arguments[1].starts_with('/')) {
-    std::fprintf(stderr, "usage: orvik-bench-engine walk|fast|full /PATH\n");
+    std::fprintf(stderr, "usage: orvik-bench-engine walk|fast|blocks|full /PATH\n");
     return 2;
   }
   host::posix::Options options;
@@ -79,8 +85,9 @@ int main(int argc, char** argv) {
   } else {
     const auto list = Walk(path);
     files = list.size();
-    if (job == "fast") {
-      for (const Text& file : list) sum += mdlSupport::GetFastCRC(file, 0);
+    const std::int32_t block = job == "blocks" ? 32768 : 0;
+    if (job == "fast" || job == "blocks") {
+      for (const Text& file : list) sum += mdlSupport::GetFastCRC(file, block);
     }
   }
   std::printf("%zu %lld\n", files, static_cast<long long>(sum));

@@ -2,6 +2,7 @@
 //
 //   orvik-bench-floor walk FOLDER            lists a tree
 //   orvik-bench-floor sample FOLDER          reads two blocks of each file of a tree
+//   orvik-bench-floor blocks FOLDER          the same, larger ones
 //   orvik-bench-floor read FILE              reads a file
 //   orvik-bench-floor copy FOLDER TARGET     copies a tree to a folder that doesn't exist
 //   orvik-bench-floor compare FOLDER TARGET  reads two blocks of each file in both trees
@@ -26,6 +27,7 @@
 namespace {
 
 constexpr std::size_t kBlock = 512;
+constexpr std::size_t kLargeBlock = 32768;
 constexpr std::size_t kChunk = 1 << 18;
 
 [[noreturn]] void Fail(const char* what, const std::string& path) {
@@ -89,18 +91,22 @@ void Read(int fd, char* buffer, std::size_t size, off_t at, const std::string& p
 }
 
 // What the fast checksum asks of the kernel.
-void Sample(int folder, const char* name) {
+void Sample(int folder, const char* name, std::size_t block = kBlock) {
   const int fd = openat(folder, name, O_RDONLY);
   struct stat status;
   if (fd < 0 || fstat(fd, &status) != 0) Fail("open", name);
-  std::array<char, 2 * kBlock> buffer;
-  if (status.st_size <= static_cast<off_t>(kBlock)) {
-    Read(fd, buffer.data(), kBlock, 0, name);
-  } else {
-    Read(fd, buffer.data(), kBlock, 0, name);
-    Read(fd, buffer.data() + kBlock, kBlock, status.st_size - 1 - static_cast<off_t>(kBlock), name);
+  static std::array<char, 2 * kLargeBlock> buffer;
+  Read(fd, buffer.data(), block, 0, name);
+  if (status.st_size > static_cast<off_t>(block)) {
+    Read(fd, buffer.data() + block, block, status.st_size - 1 - static_cast<off_t>(block), name);
   }
   close(fd);
+}
+
+std::size_t SampleAll(const std::string& root, std::size_t block) {
+  return Walk(root, {.file = [block](int folder, const char* name,
+                                     const std::string&) { Sample(folder, name, block); },
+                     .folder = nullptr});
 }
 
 std::size_t ReadAll(const std::string& path) {
@@ -166,9 +172,9 @@ int main(int argc, char** argv) {
   if (is("walk", 2)) {
     files = Walk(arguments[1], {});
   } else if (is("sample", 2)) {
-    files = Walk(arguments[1], {.file = [](int folder, const char* name,
-                                           const std::string&) { Sample(folder, name); },
-                                .folder = nullptr});
+    files = SampleAll(arguments[1], kBlock);
+  } else if (is("blocks", 2)) {
+    files = SampleAll(arguments[1], kLargeBlock);
   } else if (is("read", 2)) {
     files = ReadAll(arguments[1]);
   } else if (is("read", 3)) {
@@ -178,7 +184,8 @@ int main(int argc, char** argv) {
   } else if (is("compare", 3)) {
     files = Compare(arguments[1], arguments[2]);
   } else {
-    std::fprintf(stderr, "usage: orvik-bench-floor walk|sample|read|copy|compare PATH [TARGET]\n");
+    std::fprintf(stderr,
+                 "usage: orvik-bench-floor walk|sample|blocks|read|copy|compare PATH [TARGET]\n");
     return 2;
   }
   std::printf("%zu\n", files);

@@ -3,7 +3,7 @@
 
 #include <cmath>
 #include <cstdint>
-#include <limits>
+#include <utility>
 
 #include "base/failure.h"
 
@@ -15,13 +15,10 @@ constexpr Flag kTrue = -1;
 constexpr Flag kFalse = 0;
 constexpr Flag ToFlag(bool value) { return value ? kTrue : kFalse; }
 
-// The value in a narrower signed type; throws Failure when it doesn't fit.
+// The value in a narrower type; throws Failure when it doesn't fit.
 template <typename Narrow, typename Wide>
 constexpr Narrow Narrowed(Wide value) {
-  if (value < static_cast<Wide>(std::numeric_limits<Narrow>::min()) ||
-      value > static_cast<Wide>(std::numeric_limits<Narrow>::max())) {
-    throw Failure{};
-  }
+  if (!std::in_range<Narrow>(value)) throw Failure{};
   return static_cast<Narrow>(value);
 }
 

@@ -42,8 +42,10 @@ void frmSearchText::FindText() {
   lbMain.Add(u"Обработка");
   // The scan doesn't yield.
   lbMain.Repaint();
-  const KeyedCollection found =
-      mdlMain::SearchTextInFiles(txMain.text(), mdlMain::CommandArgs, cbPattern.text());
+  // Copies: the user may type while the walk yields.
+  const Text text = txMain.text();
+  const Text masks = cbPattern.text();
+  const KeyedCollection found = mdlMain::SearchTextInFiles(text, mdlMain::CommandArgs, masks);
   lbMain.Clear();
   for (std::size_t i = 1; i <= found.Count(); ++i) lbMain.Add(found.Item(i));
 }

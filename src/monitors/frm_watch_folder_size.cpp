@@ -50,9 +50,10 @@ void frmWatchFolderSize::WireEvents() {
 
 void frmWatchFolderSize::OnLoad() {
   const Text& argument = mdlMain::CommandArgs;
-  IsDriveMode = mdlSupport::AddBackslash(argument) ==
-                mdlSupport::AddBackslash(mdlSupport::GetDriveSpec(argument));
   IsMemoryMode = Trim(argument).empty();
+  // Two blanks are no drive, though they are a text of two characters.
+  IsDriveMode = !IsMemoryMode && mdlSupport::AddBackslash(argument) ==
+                                     mdlSupport::AddBackslash(mdlSupport::GetDriveSpec(argument));
   Describe();
   mdlWindowsTransparent::SetWindowTransparency(*this, kTransparency);
   DrawGauge(-1);
@@ -94,7 +95,7 @@ void frmWatchFolderSize::Tick() {
 std::int32_t frmWatchFolderSize::Measure(Text& shown) const {
   const Text& argument = mdlMain::CommandArgs;
   std::int32_t value = 0;
-  if (IsMemoryMode && !IsDriveMode) {
+  if (IsMemoryMode) {
     Attempt([&] { value = FreeMemory::GetMemoryStatus().load_percent; });
     shown = SpacedDecimal(value) + u" %";
     return value;

@@ -37,7 +37,7 @@ std::string Absolute(const std::string& folder) {
   return WithoutClosingSlash(folder);
 }
 
-std::string CurrentFolder() {
+std::string NativeCurrentFolder() {
   char buffer[PATH_MAX];
   return ::getcwd(buffer, sizeof buffer) != nullptr ? WithoutClosingSlash(buffer) : std::string();
 }
@@ -65,7 +65,7 @@ std::optional<NativePath> DriveMap::Start(TextView& path) const {
   const bool relative = path.empty() || !IsSeparator(path[0]);
   if (!relative || letter != kCurrentDrive) return start;
   // Below the current folder, as long as the current drive reaches there.
-  const std::string current = CurrentFolder();
+  const std::string current = NativeCurrentFolder();
   if (current == start.text || current.starts_with(start.text + "/")) start.text = current;
   return start;
 }
@@ -124,6 +124,17 @@ Text DriveMap::DriveForm(std::string_view native) const {
   std::replace(form.begin(), form.end(), u'/', u'\\');
   if (form.size() == 2) form += u'\\';
   return form;
+}
+
+Text DriveMap::CurrentFolder() const {
+  TextView here = u".";
+  const std::optional<NativePath> start = Start(here);
+  if (!start) return Text{kCurrentDrive, u':', u'\\'};
+  const std::string& root = folders_.at(kCurrentDrive);
+  Text form{kCurrentDrive, u':'};
+  form += FromUtf8(std::string_view(start->text).substr(root.size()));
+  std::replace(form.begin(), form.end(), u'/', u'\\');
+  return form.size() == 2 ? form + u'\\' : form;
 }
 
 int DriveMap::TypeOf(TextView drive) const {

@@ -26,6 +26,9 @@ class DriveMap {
   // does.
   Text DriveForm(std::string_view native) const;
 
+  // The folder that relative paths are below, in drive form.
+  Text CurrentFolder() const;
+
   // The number for "X:" or "X:\"; drive_type::kNoRoot for a letter without a folder.
   int TypeOf(TextView drive) const;
 

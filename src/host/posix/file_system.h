@@ -18,6 +18,8 @@ class PosixFileSystem : public FileSystem {
       : codec_(codec), drives_(drives) {}
 
   PathFinder& finder() { return finder_; }
+  // The folder that relative paths are below, in drive form.
+  Text CurrentFolder() const { return drives_.CurrentFolder(); }
 
   std::unique_ptr<Search> FindFirst(const Text& path_and_mask, Details details,
                                     FindRecord& record) override;

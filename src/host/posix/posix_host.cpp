@@ -57,16 +57,16 @@ struct PosixHost::Parts {
         drives(options.drives, options.drive_types, codec),
         files(codec, drives),
         registry(options.registry_file, CodePage::Numbered(options.code_page)),
-        shell(files.finder()),
-        system(options.environment, drives, options.code_page, options.oem_page) {}
+        system(options.environment, drives, options.code_page, options.oem_page),
+        shell(files, system) {}
 
   NameCodec codec;
   DriveMap drives;
   PosixFileSystem files;
   PosixRegistry registry;
+  PosixSystem system;
   PosixShell shell;
   PosixProcesses processes;
-  PosixSystem system;
 };
 
 PosixHost::PosixHost(Options options) {

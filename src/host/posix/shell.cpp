@@ -19,30 +19,27 @@ bool IsInDriveForm(TextView word) {
 }  // namespace
 
 bool PosixShell::Recycle(const Text& path, Questions /*questions*/) {
-  const std::optional<Entry> entry = finder_.LookAtLink(path);
+  const std::optional<Entry> entry = files_.finder().LookAtLink(path);
   if (!entry || entry->path.IsRoot()) return false;
   if (entry->IsFile() && IsHeld(entry->path.c_str())) return false;
   if (!MoveToTrash(entry->path.text)) return false;
-  finder_.Gone(entry->path);
+  files_.finder().Gone(entry->path);
   return true;
 }
-
-std::optional<Shortcut> PosixShell::ReadShortcut(const Text& /*path*/) { return std::nullopt; }
-
-bool PosixShell::WriteShortcut(const Text& /*path*/, const Shortcut& /*shortcut*/) { return false; }
 
 // A file that can be run; nothing when there is none. A bare name is left to the search of PATH.
 std::optional<std::string> PosixShell::ProgramPath(const Text& name) {
   if (!IsPath(name)) return name.empty() ? std::nullopt : std::optional(ToUtf8(name));
-  const std::optional<Entry> entry = finder_.Look(name);
+  const std::optional<Entry> entry = files_.finder().Look(name);
   if (!entry || !entry->IsFile() || ::access(entry->path.c_str(), X_OK) != 0) return std::nullopt;
   return entry->path.text;
 }
 
 std::string PosixShell::Argument(const Text& word) {
   if (IsInDriveForm(word)) {
-    if (const std::optional<Entry> entry = finder_.Look(word)) return entry->path.c_str();
-    if (const std::optional<NativePath> path = finder_.Translate(word)) return path->c_str();
+    if (const std::optional<Entry> entry = files_.finder().Look(word)) return entry->path.c_str();
+    if (const std::optional<NativePath> path = files_.finder().Translate(word))
+      return path->c_str();
   }
   return ToUtf8(word);
 }

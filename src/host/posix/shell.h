@@ -1,29 +1,34 @@
 // What the desktop does for the program on Linux.
 #pragma once
 
-#include "host/posix/path_finder.h"
+#include "host/posix/file_system.h"
 #include "host/shell.h"
+#include "host/shell_link/shortcut_link.h"
+#include "host/system.h"
 
 namespace orvik::host::posix {
 
-// Shortcuts aren't read or written yet: no file is one, and none is made.
 class PosixShell : public Shell {
  public:
-  explicit PosixShell(PathFinder& finder) : finder_(finder) {}
+  PosixShell(PosixFileSystem& files, System& system) : files_(files), system_(system) {}
 
   // Into the trash folder. There is no dialog of the desktop's, so nobody is asked.
   bool Recycle(const Text& path, Questions questions) override;
-  std::optional<Shortcut> ReadShortcut(const Text& path) override;
-  bool WriteShortcut(const Text& path, const Shortcut& shortcut) override;
   // Paths in drive form become paths of Linux, the program's and those among its arguments. How the
   // window comes up is the desktop's affair.
   bool Start(const Text& command_line, WindowState window) override;
 
+  // shortcuts.cpp
+  std::optional<Shortcut> ReadShortcut(const Text& path) override;
+  bool WriteShortcut(const Text& path, const Shortcut& shortcut) override;
+
  private:
+  TargetFacts FactsOf(const Text& target);
   std::optional<std::string> ProgramPath(const Text& name);
   std::string Argument(const Text& word);
 
-  PathFinder& finder_;
+  PosixFileSystem& files_;
+  System& system_;
 };
 
 }  // namespace orvik::host::posix

@@ -1,7 +1,10 @@
 // Shortcuts: ".lnk" files.
-#include <charconv>
+#include <optional>
+#include <string>
+#include <string_view>
 
-#include "base/numbers.h"
+#include "host/file_system.h"
+#include "host/shortcut_fields.h"
 #include "host/win32/ansi_text.h"
 #include "host/win32/com_pointer.h"
 #include "host/win32/file_facts.h"
@@ -12,29 +15,7 @@ namespace orvik::host::win32 {
 namespace {
 
 // Room for the longest texts that a shortcut can hold.
-constexpr int kRoom = 32768;
-
-struct Icon {
-  std::wstring path;
-  int index = 0;
-};
-
-// "path,index"; a comma that no number follows belongs to the path.
-Icon ParseIcon(const Text& location) {
-  const std::size_t comma = location.rfind(u',');
-  if (comma == Text::npos) return {ToWide(location)};
-  const std::string digits = ToUtf8(Trim(TextView(location).substr(comma + 1)));
-  int index = 0;
-  const char* end = digits.data() + digits.size();
-  const auto [stop, error] = std::from_chars(digits.data(), end, index);
-  if (error != std::errc() || stop != end) return {ToWide(location)};
-  return {ToWide(TextView(location).substr(0, comma)), index};
-}
-
-Text IconText(const wchar_t* path, int index) {
-  Text text = FromWide(path);
-  return index == 0 ? text : text + u',' + Decimal(index);
-}
+constexpr int kRoom = static_cast<int>(kLongestShortcutText) + 1;
 
 // A new object that is both interfaces of a shortcut.
 struct Link {
@@ -58,13 +39,13 @@ Shortcut Contents(const ComPointer<IShellLinkW>& link) {
     buffer[0] = L'\0';
     return text;
   };
-  shortcut.target = read(link->GetPath(buffer.data(), kRoom, nullptr, 0));
+  shortcut.target = PlainTarget(read(link->GetPath(buffer.data(), kRoom, nullptr, 0)));
   shortcut.arguments = read(link->GetArguments(buffer.data(), kRoom));
   shortcut.description = read(link->GetDescription(buffer.data(), kRoom));
   shortcut.working_folder = read(link->GetWorkingDirectory(buffer.data(), kRoom));
   int index = 0;
   if (SUCCEEDED(link->GetIconLocation(buffer.data(), kRoom, &index))) {
-    shortcut.icon_location = IconText(buffer.c_str(), index);
+    shortcut.icon_location = IconLocationText(FromWide(buffer.c_str()), index);
   }
   return shortcut;
 }
@@ -84,13 +65,32 @@ int StoredWindowStyle(const std::wstring& path) {
   return count == sizeof style ? style : SW_SHOWNORMAL;
 }
 
+// The path that a target stands for, with its variables expanded: not every shell does that, and
+// Wine takes them for names. A bare name is left to the shell, which searches for the program.
+// Nothing for one that is too long.
+std::optional<std::wstring> FullTarget(const Text& target) {
+  const std::wstring plain = ToWide(PlainTarget(target));
+  wchar_t expanded[kLongestPath + 1];
+  const DWORD room = kLongestPath + 1;
+  const DWORD expanded_length = ExpandEnvironmentStringsW(plain.c_str(), expanded, room);
+  if (expanded_length == 0 || expanded_length > room) return std::nullopt;
+  if (std::wstring_view(expanded).find_first_of(L"\\/:") == std::wstring_view::npos) {
+    return expanded;
+  }
+  wchar_t full[kLongestPath + 1];
+  const DWORD length = GetFullPathNameW(expanded, room, full, nullptr);
+  if (length == 0 || length >= room) return std::nullopt;
+  return ToWide(PlainTarget(FromWide(full)));
+}
+
 bool Fill(const ComPointer<IShellLinkW>& link, const Shortcut& shortcut) {
-  const Icon icon = ParseIcon(shortcut.icon_location);
-  return SUCCEEDED(link->SetPath(ToWide(shortcut.target).c_str())) &&
+  const IconLocation icon = ParseIconLocation(shortcut.icon_location);
+  const auto target = FullTarget(shortcut.target);
+  return target && SUCCEEDED(link->SetPath(target->c_str())) &&
          SUCCEEDED(link->SetArguments(ToWide(shortcut.arguments).c_str())) &&
          SUCCEEDED(link->SetDescription(ToWide(shortcut.description).c_str())) &&
          SUCCEEDED(link->SetWorkingDirectory(ToWide(shortcut.working_folder).c_str())) &&
-         SUCCEEDED(link->SetIconLocation(icon.path.c_str(), icon.index)) &&
+         SUCCEEDED(link->SetIconLocation(ToWide(icon.path).c_str(), icon.index)) &&
          SUCCEEDED(link->SetShowCmd(shortcut.window_style));
 }
 
@@ -117,7 +117,7 @@ std::optional<Shortcut> Win32Shell::ReadShortcut(const Text& path) {
 
 bool Win32Shell::WriteShortcut(const Text& path, const Shortcut& shortcut) {
   const auto ansi = AnsiPath(path);
-  if (!ansi || IsReadOnly(*ansi) || IsFolder(*ansi)) return false;
+  if (!ansi || IsReadOnly(*ansi) || IsFolder(*ansi) || !IsFitToWrite(shortcut)) return false;
   NeedCom();
   Link link;
   return link.Create() && Fill(link.link, shortcut) &&

@@ -19,7 +19,7 @@ class Win32Shell : public Shell {
   bool Recycle(const Text& path, Questions questions) override;
   bool Start(const Text& command_line, WindowState window) override;
 
-  // shortcuts.cpp. The icon location is "path", or "path,index" for another icon than the first.
+  // shortcuts.cpp
   std::optional<Shortcut> ReadShortcut(const Text& path) override;
   bool WriteShortcut(const Text& path, const Shortcut& shortcut) override;
 
