@@ -17,7 +17,7 @@ from jobs import FLOOR, ORVIK, Job, Jobs, WrongResult
 
 HEAD = (f"| job | {ORVIK} | bare {FLOOR} | other programs |", "|---|---|---|---|")
 GROUPS = ("checksum", "fast", "walk", "copy", "update", "list", "folders", "lists", "empty", "delete",
-          "base")
+          "base", "xor")
 LEGEND = (f"Seconds for {ORVIK}; for everything else the time of {ORVIK} divided by its time, so that "
           "less than 1 means that Orvik is faster.")
 

@@ -1,6 +1,8 @@
 """What is measured: jobs, and the programs that compete in each."""
 
+import filecmp
 import json
+import shutil
 import subprocess
 from collections.abc import Callable
 from dataclasses import dataclass, field
@@ -151,6 +153,7 @@ class Jobs:
             "empty": self.empty_folders,
             "delete": self.deletion,
             "base": self.file_base,
+            "xor": self.scrambling,
         }
 
     def small(self) -> tuple[Path, int]:
@@ -352,3 +355,36 @@ class Jobs:
             Contestant("cp -r", lambda n: ["cp", "-r", str(tree), str(fresh("cp")(n))],
                        holds(fresh("cp"), files)),
         ], writes=True, notes=["Beside a file base `cp` copies the same files in their own folders."])]
+
+    def scrambling(self) -> list[Job]:
+        place = self.scratch / "xor"
+        place.mkdir()
+        source = sample_tree.make_texts(self.scratch / "text", self.scale)["binary"]
+        plain = place / "plain"
+        # The text runs of the sample stay in; only the length is that of the job.
+        size = max(1, round(500 * self.scale)) * sample_tree.MIB
+        with open(plain, "wb") as file:
+            while file.tell() < size:
+                file.write(source.read_bytes()[:size - file.tell()])
+        # Scrambled in place, run by run: what came out is known by every second run.
+        scrambled = place / "scrambled"
+        shutil.copy(plain, scrambled)
+        script = place / "key.txt"
+        script.write_text('answer input "a key of some length"\n')
+        command = [str(self.headless), "--script", str(script), "--registry", str(place / "reg"),
+                   "--drive", f"T={place}", "/XOR T:\\scrambled"]
+
+        def same_every_second_time(output: bytes, run: int) -> None:
+            if b'"Complete"' not in output:
+                raise WrongResult(f"no end in {output[-400:]!r}")
+            if filecmp.cmp(plain, scrambled, shallow=False) != (run % 2 == 1):
+                raise WrongResult(f"the wrong bytes in {scrambled}")
+
+        openssl = ["openssl", "enc", "-aes-128-ctr", "-K", "00" * 16, "-iv", "00" * 16,
+                   "-in", str(plain), "-out", str(place / "openssl")]
+        return [Job(f"scrambling, {size // sample_tree.MIB} MiB in one file", [
+            Contestant(ORVIK, lambda n: command, same_every_second_time),
+            Contestant(FLOOR, lambda n: self.floor("read", plain), counts(1)),
+            Contestant("openssl enc -aes-128-ctr", lambda n: openssl),
+            Contestant("cp", lambda n: ["cp", str(plain), str(place / "copy")]),
+        ], writes=True, notes=["Beside scrambling the bare system calls only read the file."])]
