@@ -60,15 +60,18 @@ FakeFileSystem::Drive* FakeFileSystem::DriveOf(TextView path) const {
   return nullptr;
 }
 
-FakeFileSystem::Place FakeFileSystem::Locate(TextView path) const {
-  Place place;
-  if (path.empty() || path.size() > host::kLongestPath) return place;
+Text FakeFileSystem::Full(TextView path) const {
   Text full(path);
   std::replace(full.begin(), full.end(), u'/', u'\\');
   const bool absolute = full.starts_with(u"\\\\") || (full.size() > 1 && full[1] == u':');
-  if (!absolute) {
-    full = (full[0] == u'\\' ? current_folder.substr(0, 2) : current_folder + u"\\") + full;
-  }
+  if (absolute) return full;
+  return (full[0] == u'\\' ? current_folder.substr(0, 2) : current_folder + u"\\") + full;
+}
+
+FakeFileSystem::Place FakeFileSystem::Locate(TextView path) const {
+  Place place;
+  if (path.empty() || path.size() > host::kLongestPath) return place;
+  const Text full = Full(path);
   place.drive = DriveOf(full);
   if (place.drive == nullptr) return place;
   place.node = &place.drive->root;
@@ -82,7 +85,9 @@ FakeFileSystem::Place FakeFileSystem::Locate(TextView path) const {
 
 FakeNode* FakeFileSystem::At(TextView path) const { return Locate(path).node; }
 
-FakeNode& FakeFileSystem::Make(TextView path, bool folder) {
+FakeNode& FakeFileSystem::Make(TextView given, bool folder) {
+  const Text full = Full(given);
+  const TextView path = full;
   Drive* drive = DriveOf(path);
   if (drive == nullptr) {
     AddDrive(path.substr(0, 2));

@@ -66,10 +66,12 @@ class FakeFileSystem : public host::FileSystem {
   struct Drive;
   struct Place;  // where a path leads: the folder that holds its last name, and what is there
 
+  // The path with its drive; it isn't empty.
+  Text Full(TextView path) const;
   Place Locate(TextView path) const;
   FakeNode* At(TextView path) const;
   Drive* DriveOf(TextView path) const;
-  FakeNode& Make(TextView path, bool folder);
+  FakeNode& Make(TextView given, bool folder);
   void Log(std::string call, bool change);
 
   std::vector<std::unique_ptr<Drive>> drives_;

@@ -3,6 +3,7 @@
 
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/host.h"
@@ -10,6 +11,13 @@
 #include "unit/support/fake_registry.h"
 
 namespace orvik::test {
+
+// A shortcut with a target and nothing else.
+inline host::Shortcut LeadingTo(Text target) {
+  host::Shortcut shortcut;
+  shortcut.target = std::move(target);
+  return shortcut;
+}
 
 class FakeShell : public host::Shell {
  public:

@@ -89,13 +89,6 @@ TEST_F(PosixShellTest, ThingsOfAnotherDiskGoToTheTrashAtItsTop) {
   ASSERT_EQ(std::system(("rm -rf " + folder + " " + trash).c_str()), 0);
 }
 
-TEST_F(PosixShellTest, ShortcutsAreRefused) {
-  WriteNative("x.lnk", "");
-  EXPECT_EQ(shell().ReadShortcut(u"T:\\x.lnk"), std::nullopt);
-  EXPECT_FALSE(shell().WriteShortcut(u"T:\\new.lnk", {}));
-  EXPECT_FALSE(files().PathExists(u"T:\\new.lnk"));
-}
-
 TEST_F(PosixShellTest, ProgramsGetPathsOfLinux) {
   WriteNative("a program", "#!/bin/sh\nprintf '%s|' \"$@\" > \"$1.part\"; mv \"$1.part\" \"$1\"\n");
   ASSERT_EQ(::chmod(Native("a program").c_str(), 0755), 0);
