@@ -144,6 +144,34 @@ TEST_F(Skins, PressesAndClicksAreTold) {
   EXPECT_EQ(told, "form down;title down;|value click;exit;");
 }
 
+TEST_F(Skins, ADragWithoutAButtonDownEndsAtOnce) {
+  Show();
+  RECT before, after;
+  GetWindowRect(WindowOf(strip_), &before);
+  strip_.value.on_click = [&] { front_.Drag(strip_); };
+  Send(strip_.value, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+  Send(strip_.value, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+  Pump();
+  GetWindowRect(WindowOf(strip_), &after);
+  EXPECT_TRUE(EqualRect(&before, &after));
+}
+
+TEST_F(Skins, ARealPressDragsTheForm) {
+  Show();
+  strip_.title.on_mouse_down = [&](Mouse) { front_.Drag(strip_); };
+  RECT before, after;
+  GetWindowRect(WindowOf(strip_), &before);
+  SetCursorPos(before.left + 30, before.top + 8);
+  mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+  mouse_event(MOUSEEVENTF_MOVE, 60, 40, 0, 0);
+  mouse_event(MOUSEEVENTF_MOVE, 1, 1, 0, 0);
+  mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+  PumpFor(300);
+  GetWindowRect(WindowOf(strip_), &after);
+  EXPECT_GT(after.left, before.left + 20);
+  EXPECT_GT(after.top, before.top + 10);
+}
+
 TEST_F(Skins, EscapeReachesTheFormAndEnterPressesNothing) {
   Show();
   int escapes = 0;
