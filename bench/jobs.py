@@ -35,6 +35,7 @@ class Job:
     contestants: list[Contestant]
     writes: bool = False  # flush what earlier runs wrote before each run
     notes: list[str] = field(default_factory=list)
+    memory: bool = False  # tell the peak of memory as well
 
 
 def counts(expected: int) -> Callable[[bytes, int], None]:
@@ -250,9 +251,9 @@ class Jobs:
               for name, command in peers.items()),
         ], notes=["`cp -au` and `rsync -a` go by dates and read no file."])
 
-    def form_job(self, line: str, script: str, drives: dict[str, Path]) -> list[str]:
+    def form_job(self, line: str, script: str, drives: dict[str, Path], name: str = "") -> list[str]:
         """A job of the product behind a script; each has a script and a registry of its own."""
-        base = self.scratch / f"job {line[1:4]}"
+        base = self.scratch / f"job {line[1:4]}{name}"
         base.with_suffix(".txt").write_text(script)
         mapped = [part for letter, folder in drives.items()
                   for part in ("--drive", f"{letter}={folder}")]

@@ -29,11 +29,23 @@ void frmSearchText::OnLoad() {
   Show();
 }
 
+// What reaches across the form at design time does so at every width.
 void frmSearchText::OnResize() {
+  const int margin = lbMain.bounds().left;
+  const int across = width() - forms::kFrameWidth - 2 * margin;
+  const auto stretch = [](forms::Control& control, int width) {
+    forms::Bounds bounds = control.bounds();
+    bounds.width = width;
+    control.Move(bounds);
+  };
+  forms::Bounds find = btFind.bounds();
+  find.left = margin + across - find.width;
+  btFind.Move(find);
+  stretch(txMain, find.left - 90 - margin);
+  stretch(rmPattern, across);
+  stretch(cbPattern, across - 2 * cbPattern.bounds().left);
   const forms::Bounds list = lbMain.bounds();
-  const int width = this->width() - forms::kFrameWidth - 2 * list.left;
-  const int height = this->height() - forms::kFrameHeight - list.top - list.left;
-  lbMain.Move({list.left, list.top, width, height});
+  lbMain.Move({list.left, list.top, across, height() - forms::kFrameHeight - list.top - margin});
 }
 
 void frmSearchText::FindText() {

@@ -10,7 +10,8 @@ using forms::Kind;
 
 Kind KindOfStatic(DWORD style) {
   const DWORD type = style & SS_TYPEMASK;
-  const bool line = type == SS_ETCHEDHORZ || type == SS_ETCHEDVERT || type == SS_ETCHEDFRAME;
+  // A line in a colour of its own draws itself.
+  const bool line = type == SS_ETCHEDHORZ || type == SS_ETCHEDVERT || type == SS_OWNERDRAW;
   return line ? Kind::kLine : Kind::kLabel;
 }
 

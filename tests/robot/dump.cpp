@@ -3,6 +3,7 @@
 #include "forms/form.h"
 #include "robot/controls.h"
 #include "robot/list_reader.h"
+#include "robot/tree_reader.h"
 #include "robot/window_facts.h"
 
 namespace orvik::robot {
@@ -90,6 +91,20 @@ void WriteListView(JsonWriter& json, const Subject& control) {
   json.EndArray();
 }
 
+void WriteTreeView(JsonWriter& json, const Subject& control) {
+  const TreeState tree = ReadTree(control.process, control.window);
+  WriteState(json, control.window);
+  json.Name("nodes").BeginArray();
+  for (const TreeState::Node& node : tree.nodes) {
+    json.BeginObject().Name("text").String(TextView(node.text));
+    json.Name("parent").Number(node.parent);
+    json.Name("checked").Bool(node.checked);
+    json.Name("expanded").Bool(node.expanded).EndObject();
+  }
+  json.EndArray().Name("selected").Number(tree.selected);
+  json.Name("tooltip").String(TextView(tree.tooltip));
+}
+
 void WriteProgressBar(JsonWriter& json, const Subject& control) {
   WriteState(json, control.window);
   json.Name("max").Number(SendMessageW(control.window, PBM_GETRANGE, FALSE, 0));
@@ -127,7 +142,7 @@ void WriteMembers(JsonWriter& json, const Subject& control) {
     case Kind::kListView:
       return WriteKind(json, "ListView", control, WriteListView);
     case Kind::kTreeView:
-      return WriteKind(json, "TreeView", control, plain);
+      return WriteKind(json, "TreeView", control, WriteTreeView);
     case Kind::kProgressBar:
       return WriteKind(json, "ProgressBar", control, WriteProgressBar);
     case Kind::kStatusBar:
@@ -154,15 +169,37 @@ std::string FormNameOf(HWND window) {
   return name.starts_with(kPrefix) ? ToUtf8(TextView(name).substr(kPrefix.size())) : std::string();
 }
 
+namespace {
+
+// What a form without a title bar has beside: how translucent it is, and the box around its shape.
+void WriteSkin(JsonWriter& json, HWND form) {
+  BYTE level = 255;
+  GetLayeredWindowAttributes(form, nullptr, &level, nullptr);
+  json.Name("transparency").Number(level);
+  const HRGN shape = CreateRectRgn(0, 0, 0, 0);
+  if (GetWindowRgn(form, shape) != ERROR) {
+    RECT box{};
+    GetRgnBox(shape, &box);
+    // A rounded rectangle ends one pixel ahead of its edges.
+    json.Name("region").BeginArray().Number(box.left).Number(box.top);
+    json.Number(box.right + 1).Number(box.bottom + 1).EndArray();
+  }
+  DeleteObject(shape);
+}
+
+}  // namespace
+
 void WriteForm(JsonWriter& json, HANDLE process, HWND form) {
+  const bool skinned = (StyleOf(form) & WS_CAPTION) != WS_CAPTION;
   RECT inner{};
   GetClientRect(form, &inner);
   json.Name("form").String(FormNameOf(form));
   json.Name("caption").String(TextView(TextOf(form)));
   json.Name("visible").Bool(IsShown(form));
-  json.Name("width").Number(Twips(inner.right, form) + forms::kFrameWidth);
-  json.Name("height").Number(Twips(inner.bottom, form) + forms::kFrameHeight);
+  json.Name("width").Number(Twips(inner.right, form) + (skinned ? 0 : forms::kFrameWidth));
+  json.Name("height").Number(Twips(inner.bottom, form) + (skinned ? 0 : forms::kFrameHeight));
   json.Name("topmost").Bool((ExtendedStyleOf(form) & WS_EX_TOPMOST) != 0);
+  if (skinned) WriteSkin(json, form);
   json.Name("controls").BeginObject();
   ForEachBelow(form, [&](HWND window) {
     const std::string name = NameOf(window);

@@ -1,10 +1,13 @@
 #include "robot/entries.h"
 
+#include <cstring>
+
 #include "robot/controls.h"
 #include "robot/input.h"
 #include "robot/list_reader.h"
 #include "robot/messenger.h"
 #include "robot/remote.h"
+#include "robot/tree_reader.h"
 #include "robot/window_facts.h"
 
 namespace orvik::robot {
@@ -76,7 +79,36 @@ void SetRowState(const Found& list, int position, UINT state, UINT mask) {
 }
 
 // The position that a script gives to the first entry.
-int FirstPosition(const Found& control) { return control.kind == forms::Kind::kListView ? 1 : 0; }
+int FirstPosition(const Found& control) {
+  const bool from_one =
+      control.kind == forms::Kind::kListView || control.kind == forms::Kind::kTreeView;
+  return from_one ? 1 : 0;
+}
+
+TreeState::Node NodeAt(const Found& tree, int position) {
+  return ReadTree(tree.process, tree.window).nodes.at(static_cast<std::size_t>(position) - 1);
+}
+
+// The box has no rectangle of its own: it is found by probing.
+POINT BoxOfNode(const Found& tree, HTREEITEM item, const RECT& text) {
+  const LONG middle = (text.top + text.bottom) / 2;
+  for (LONG x = 0; x < text.right; x += 2) {
+    TVHITTESTINFO hit{};
+    hit.pt = {x, middle};
+    SendStructure(tree.process, tree.window, TVM_HITTEST, 0, hit);
+    if (hit.hItem == item && (hit.flags & TVHT_ONITEMSTATEICON) != 0) return {x + 2, middle};
+  }
+  throw Refused{tree.name + " has no boxes"};
+}
+
+POINT PointInTree(const Found& tree, int position, Spot spot) {
+  const HTREEITEM item = NodeAt(tree, position).item;
+  SendMessageW(tree.window, TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(item));
+  RECT text{};
+  std::memcpy(&text, &item, sizeof item);
+  SendStructure(tree.process, tree.window, TVM_GETITEMRECT, TRUE, text);
+  return OnScreen(tree.window, spot == Spot::kBox ? BoxOfNode(tree, item, text) : AtText(text));
+}
 
 void SelectRows(const Found& list, const std::vector<int>& positions) {
   constexpr UINT kBoth = LVIS_SELECTED | LVIS_FOCUSED;
@@ -109,6 +141,8 @@ std::optional<int> EntryCount(const Found& control) {
     case forms::Kind::kListView:
     case forms::Kind::kListBox:
       return Ask(control.window, IsListView(control.window) ? LVM_GETITEMCOUNT : LB_GETCOUNT);
+    case forms::Kind::kTreeView:
+      return Ask(control.window, TVM_GETCOUNT);
     case forms::Kind::kComboBox:
       return Ask(control.window, CB_GETCOUNT);
     default:
@@ -126,11 +160,22 @@ void Require(const Found& control, int position) {
 
 POINT PointOfEntry(const Found& list, int position, Spot spot) {
   Require(list, position);
+  if (list.kind == forms::Kind::kTreeView) return PointInTree(list, position, spot);
   return IsListView(list.window) ? PointInListView(list, position - FirstPosition(list), spot)
                                  : PointInListBox(list.window, position);
 }
 
+bool IsChecked(const Found& list, int position) {
+  if (list.kind == forms::Kind::kTreeView) return NodeAt(list, position).checked;
+  return IsChecked(list.window, position);
+}
+
 void SelectEntries(const Found& list, const std::vector<int>& positions) {
+  if (list.kind == forms::Kind::kTreeView) {
+    const HTREEITEM item = positions.empty() ? nullptr : NodeAt(list, positions[0]).item;
+    SendMessageW(list.window, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item));
+    return;
+  }
   if (IsListView(list.window)) {
     SelectRows(list, positions);
   } else {

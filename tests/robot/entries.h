@@ -19,7 +19,7 @@ struct Found {
 };
 
 // How many entries the control has; nothing for a control without entries. Positions here are those
-// of scripts: in a list view they count from 1.
+// of scripts: in a list view and a tree they count from 1, in a tree in the order of addition.
 std::optional<int> EntryCount(const Found& control);
 // Throws Refused when the control has no entry at a position.
 void Require(const Found& control, int position);
@@ -28,6 +28,9 @@ void Require(const Found& control, int position);
 // Throws Refused when there is none.
 enum class Spot { kText, kBox };
 POINT PointOfEntry(const Found& list, int position, Spot spot = Spot::kText);
+
+// Whether the box of an entry or node is on.
+bool IsChecked(const Found& list, int position);
 
 // The state of entries as the keyboard changes it: these are selected, the last one current.
 void SelectEntries(const Found& list, const std::vector<int>& positions);

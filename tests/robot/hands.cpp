@@ -110,14 +110,15 @@ void Hands::Do(const script::Check& event) {
     if (IsOn(control.window) != event.on) ClickControl(control);
     return;
   }
-  if (control.kind != Kind::kListBox || !event.position) {
+  const bool tree = control.kind == Kind::kTreeView;
+  if ((control.kind != Kind::kListBox && !tree) || !event.position) {
     throw Refused{Name(event.target) + " has no such box"};
   }
-  if (!IsListView(control.window) || !HasBoxes(control.window)) {
+  if (!tree && (!IsListView(control.window) || !HasBoxes(control.window))) {
     throw Refused{control.name + " has no boxes"};
   }
   Require(control, *event.position);
-  if (IsChecked(control.window, *event.position) == event.on) return;
+  if (IsChecked(control, *event.position) == event.on) return;
   BringToFront(control.window);
   PressMouse(PointOfEntry(control, *event.position, Spot::kBox), Press::kClick);
 }
@@ -149,11 +150,13 @@ void Hands::Do(const script::Select& event) {
     ChooseInComboBox(control, event.positions[0]);
     return;
   }
-  const bool single = IsListView(control.window)
+  const bool single = control.kind == Kind::kTreeView ? true
+                      : IsListView(control.window)
                           ? (StyleOf(control.window) & LVS_SINGLESEL) != 0
                           : (StyleOf(control.window) & (LBS_EXTENDEDSEL | LBS_MULTIPLESEL)) == 0;
   if (single && event.positions.size() > 1) {
-    throw Refused{control.name + " takes one selected entry"};
+    const bool tree = control.kind == Kind::kTreeView;
+    throw Refused{control.name + " takes one selected " + (tree ? "node" : "entry")};
   }
   GiveFocus(control.window);
   SelectEntries(control, event.positions);
@@ -198,6 +201,10 @@ void Hands::Do(const script::Arrow& event) {
   const LPARAM at = MAKELPARAM(area.right / 2, event.up ? area.bottom / 4 : area.bottom * 3 / 4);
   stage_.messenger().Send(control.window, WM_LBUTTONDOWN, MK_LBUTTON, at);
   stage_.messenger().Send(control.window, WM_LBUTTONUP, 0, at);
+}
+
+void Hands::Do(const script::ChooseMenu& event) {
+  stage_.menus().Choose(Form(event.target), event.target.control);
 }
 
 void Hands::Do(const script::Resize& event) {

@@ -21,6 +21,7 @@ class Hands {
   void Do(const forms::headless::MouseButton& event);
   void Do(const forms::headless::KeyStroke& event);
   void Do(const forms::headless::Arrow& event);
+  void Do(const forms::headless::ChooseMenu& event);
   void Do(const forms::headless::Resize& event);
   void Do(const forms::headless::Close& event);
 

@@ -37,6 +37,9 @@ bool Player::PlayLine(const script::ScriptLine& line) {
   if (const auto* wait = std::get_if<script::Wait>(&line.event)) {
     return stage_.Watch(static_cast<int>(wait->milliseconds)) && stage_.Settle();
   }
+  // Whoever does anything but choose closes the menu first.
+  const bool chooses = std::holds_alternative<script::ChooseMenu>(line.event);
+  if (!chooses && stage_.menus().Dismiss() && !stage_.Settle()) return false;
   try {
     if (line.during != 0) throw Refused{"the robot can't reach into a job"};
     Do(line.event);
@@ -62,7 +65,6 @@ void Player::Do(const script::Event& event) {
                    stage_.record().End();
                  },
                  [&](const script::Dump& dump) { Show(dump); },
-                 [](const script::ChooseMenu&) { throw Refused{"no menus yet"}; },
                  // Taken before it comes here.
                  [](const script::Wait&) {},
                  [](const script::AnswerMessage&) {},

@@ -13,6 +13,8 @@ constexpr int kLook = 5;
 
 bool Stage::Look() {
   bool news = forms_.Look();
+  news = modal_forms_.Look(forms_.all()) || news;
+  news = menus_.Look(forms_.all()) || news;
   news = dialogs_.Look() || news;
   return clipboard_.Look() || news;
 }

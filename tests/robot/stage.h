@@ -6,7 +6,9 @@
 #include "robot/clipboard.h"
 #include "robot/dialogs.h"
 #include "robot/form_watch.h"
+#include "robot/menus.h"
 #include "robot/messenger.h"
+#include "robot/modal_forms.h"
 #include "robot/program.h"
 #include "robot/record.h"
 
@@ -26,6 +28,8 @@ class Stage {
         patience_(patience),
         forms_(program.id(), record),
         dialogs_(program, messenger_, record),
+        modal_forms_(messenger_, record, dialogs_.answers()),
+        menus_(messenger_, record),
         clipboard_(program.id(), record) {}
 
   Program& program() const { return program_; }
@@ -33,6 +37,7 @@ class Stage {
   Messenger& messenger() { return messenger_; }
   const FormWatch& forms() const { return forms_; }
   forms::headless::Answers& answers() { return dialogs_.answers(); }
+  Menus& menus() { return menus_; }
 
   // Looks on, and answers dialogs, until a form is open and the program has come to rest: all that
   // was pressed is done, no dialog is open, nothing new appears, it answers and takes no processor
@@ -54,6 +59,8 @@ class Stage {
   Messenger messenger_;
   FormWatch forms_;
   Dialogs dialogs_;
+  ModalForms modal_forms_;
+  Menus menus_;
   ClipboardWatch clipboard_;
 };
 

@@ -28,8 +28,8 @@ Text TextOf(HWND window) {
   return text;
 }
 
-std::string NameOf(HWND window) {
-  const auto atom = static_cast<ATOM>(reinterpret_cast<UINT_PTR>(GetPropW(window, L"Orvik.Name")));
+std::string NameOf(HWND window, const wchar_t* property) {
+  const auto atom = static_cast<ATOM>(reinterpret_cast<UINT_PTR>(GetPropW(window, property)));
   wchar_t name[kLongestName];
   if (atom == 0) return {};
   const UINT length = GlobalGetAtomNameW(atom, name, kLongestName);

@@ -14,7 +14,7 @@ Text ClassOf(HWND window);
 Text TextOf(HWND window);
 // The name that the program's form or control has in its code, from the property that its window
 // carries; "" where there is none.
-std::string NameOf(HWND window);
+std::string NameOf(HWND window, const wchar_t* property = L"Orvik.Name");
 DWORD StyleOf(HWND window);
 DWORD ExtendedStyleOf(HWND window);
 // The window's own state, whatever holds it.

@@ -3,16 +3,17 @@
 The robot looks at the windows of the program from another process. A transcript of the headless
 program becomes comparable with the robot's by leaving out what has no window, and nothing else:
 
-- keys and colours of rows, which their window doesn't tell;
+- keys and colours of rows, and keys of nodes, which their windows don't tell;
 - sub-items that no column shows, and empty ones at a row's end, which look like none;
 - parts of a pixel of a column's width;
-- controls of the kinds Timer and CommonDialog in a dump;
+- controls of the kinds Menu, Timer and CommonDialog in a dump;
+- what a form has drawn, and how round the corners of its region are;
 - programs started and processes ended, the events "start" and "kill";
 - why the process ended by itself: "shutdown", "closed" and "returned" are all "ended";
 - forms that go with their process: an "unload" with nothing behind it but such an end.
 """
 
-WINDOWLESS_KINDS = {"Timer", "CommonDialog"}
+WINDOWLESS_KINDS = {"Menu", "Timer", "CommonDialog"}
 UNSEEN_EVENTS = {"start", "kill"}
 OWN_ENDS = {"shutdown", "closed", "returned"}
 
@@ -29,7 +30,13 @@ def _seen_row(row, shown):
     return {"text": row["text"], "sub": sub, "selected": row["selected"]}
 
 
+def _seen_node(node):
+    return {name: value for name, value in node.items() if name != "key"}
+
+
 def _seen_control(control):
+    if control["kind"] == "TreeView":
+        return {**control, "nodes": [_seen_node(node) for node in control["nodes"]]}
     if control["kind"] != "ListView":
         return control
     columns = [{**column, "width": _seen_width(column["width"])} for column in control["columns"]]
@@ -43,7 +50,10 @@ def _seen_dump(event):
         for name, control in event["controls"].items()
         if control["kind"] not in WINDOWLESS_KINDS
     }
-    return {**event, "controls": controls}
+    seen = {name: value for name, value in event.items() if name != "drawn"}
+    if "region" in seen:
+        seen["region"] = seen["region"][:4]
+    return {**seen, "controls": controls}
 
 
 def _seen(event):

@@ -15,16 +15,32 @@ def end(reason):
 
 
 class FromOutside(unittest.TestCase):
-    def test_timers_and_common_dialogs_have_no_window(self):
+    def test_menus_timers_and_common_dialogs_have_no_window(self):
         label = {"kind": "Label", "visible": True, "enabled": True, "caption": "c"}
         dump = {"event": "dump", "form": "frmMain", "caption": "d", "controls": {
             "clExit": {"kind": "Timer", "interval": 1, "active": True},
+            "mnReSel": {"kind": "Menu", "visible": True, "enabled": True, "caption": "e"},
             "cdOpen": {"kind": "CommonDialog", "filter": "", "filename": ""},
             "mtOut": label}}
         seen = from_outside([dump, end("script")])
         self.assertEqual(seen[0]["controls"], {"mtOut": label})
         self.assertEqual(seen[0]["caption"], "d")
-        self.assertEqual(len(dump["controls"]), 3)
+        self.assertEqual(len(dump["controls"]), 4)
+
+    def test_of_a_tree_all_but_the_keys(self):
+        node = {"key": "k1", "text": "a", "parent": 0, "checked": True, "expanded": False}
+        tree = {"kind": "TreeView", "nodes": [node], "selected": 1, "tooltip": " 5"}
+        seen = from_outside([{"event": "dump", "controls": {"tvMain": tree}}])
+        self.assertEqual(seen[0]["controls"]["tvMain"], {
+            "kind": "TreeView", "selected": 1, "tooltip": " 5",
+            "nodes": [{"text": "a", "parent": 0, "checked": True, "expanded": False}]})
+        self.assertIn("key", node)
+
+    def test_of_a_skin_all_but_its_drawing_and_corners(self):
+        dump = {"event": "dump", "transparency": 150, "region": [0, 0, 296, 46, 5, 5],
+                "drawn": [[1, 2, 3, 4, 5]], "controls": {}}
+        self.assertEqual(from_outside([dump]), [
+            {"event": "dump", "transparency": 150, "region": [0, 0, 296, 46], "controls": {}}])
 
     def test_of_a_list_view_what_its_window_shows(self):
         def row(text, sub):

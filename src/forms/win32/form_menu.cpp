@@ -10,9 +10,20 @@ bool IsItem(const Control& control) {
   return control.kind() == Kind::kMenu && static_cast<const Menu&>(control).parent() != nullptr;
 }
 
-// The property of a form's window that holds the number of a menu's item, for programs that test
-// the windows from outside: an item has no window to carry its name.
+// For programs that test the windows from outside, as an item has no window to carry its name: a
+// property of the form's window holds the number of the item, and in the upper half its place in
+// the menu, from 1.
 Text PropertyOf(const Control& item) { return u"Orvik.Item." + FromUtf8(item.name()); }
+
+int PlaceOf(const Menu& item) {
+  int place = 0;
+  for (const Control* control : item.form().controls()) {
+    if (!IsItem(*control) || static_cast<const Menu*>(control)->parent() != item.parent()) continue;
+    ++place;
+    if (control == &item) break;
+  }
+  return place;
+}
 
 }  // namespace
 
@@ -24,7 +35,11 @@ FormWindow::MenuPlace::~MenuPlace() { form_.menu_place_.reset(); }
 
 void FormWindow::TagItems() {
   for (const Control* control : form_.controls()) {
-    if (IsItem(*control)) SetPropW(window_, Wide(PropertyOf(*control)), IdOf(*control));
+    if (!IsItem(*control)) continue;
+    const auto id = reinterpret_cast<UINT_PTR>(IdOf(*control));
+    const int place = PlaceOf(static_cast<const Menu&>(*control));
+    SetPropW(window_, Wide(PropertyOf(*control)),
+             reinterpret_cast<HANDLE>(static_cast<UINT_PTR>(MAKELONG(id, place))));
   }
 }
 

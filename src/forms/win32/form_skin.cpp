@@ -11,6 +11,10 @@ void FormWindow::Draw(const DrawnLine& line) {
 
 void FormWindow::Drag() {
   ReleaseCapture();
+  // After a click nothing is left to follow. Windows sees that by itself; Wine would have the form
+  // stick to the mouse until another click.
+  const int button = GetSystemMetrics(SM_SWAPBUTTON) != 0 ? VK_RBUTTON : VK_LBUTTON;
+  if (GetAsyncKeyState(button) >= 0) return;
   SendMessageW(window_, WM_NCLBUTTONDOWN, HTCAPTION, 0);
 }
 

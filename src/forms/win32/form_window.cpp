@@ -109,6 +109,11 @@ void FormWindow::Close() {
   // The system hands the keyboard to a window that can take it, so those of the other forms can
   // again before this one goes.
   modal_.reset();
+  // The system would destroy what this one owns.
+  for (const FormWindow* other : desk_.windows()) {
+    if (GetWindow(other->window_, GW_OWNER) != window_) continue;
+    SetWindowLongPtrW(other->window_, GWLP_HWNDPARENT, 0);
+  }
   DestroyWindow(hints_);
   DestroyWindow(window_);
 }

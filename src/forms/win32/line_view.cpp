@@ -14,7 +14,8 @@ bool IsUpright(const Bounds& bounds) { return bounds.height > bounds.width; }
 }  // namespace
 
 LineView::LineView(Line& line, FormWindow& form) : ControlView(line, form), line_(line) {
-  Create(L"STATIC", {}, IsUpright(line.bounds()) ? SS_ETCHEDVERT : SS_ETCHEDHORZ);
+  const DWORD etched = IsUpright(line.bounds()) ? SS_ETCHEDVERT : SS_ETCHEDHORZ;
+  Create(L"STATIC", {}, line.color() ? SS_OWNERDRAW : etched);
 }
 
 RECT LineView::Area() const {
@@ -28,20 +29,9 @@ RECT LineView::Area() const {
   return area;
 }
 
-void LineView::Paint() const {
-  PAINTSTRUCT paint;
-  const HDC context = BeginPaint(window(), &paint);
-  SetDCBrushColor(context, line_.color().value_or(0));
-  FillRect(context, &paint.rcPaint, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-  EndPaint(window(), &paint);
-}
-
-LRESULT LineView::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
-  if (message != WM_PAINT || !line_.color()) {
-    return ControlView::OnMessage(message, wparam, lparam);
-  }
-  Paint();
-  return 0;
+void LineView::OnDraw(const DRAWITEMSTRUCT& draw) {
+  SetDCBrushColor(draw.hDC, line_.color().value_or(0));
+  FillRect(draw.hDC, &draw.rcItem, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
 }  // namespace orvik::forms::win32

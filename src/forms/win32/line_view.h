@@ -11,13 +11,12 @@ class LineView : public ControlView {
  public:
   LineView(Line& line, FormWindow& form);
 
+  void OnDraw(const DRAWITEMSTRUCT& draw) override;
+
  protected:
   RECT Area() const override;
-  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
 
  private:
-  void Paint() const;
-
   const Line& line_;
 };
 

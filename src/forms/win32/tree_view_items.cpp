@@ -34,7 +34,8 @@ int TreeViewView::PositionOf(HTREEITEM item) const {
   TVITEMW asked{};
   asked.mask = TVIF_PARAM | TVIF_HANDLE;
   asked.hItem = item;
-  if (item == nullptr || Send(TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&asked)) == 0) return 0;
+  // The window itself, which answers others from the model.
+  if (item == nullptr || Default(TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&asked)) == 0) return 0;
   return tree_.PositionOf(static_cast<std::uint32_t>(asked.lParam));
 }
 
@@ -50,13 +51,19 @@ HTREEITEM TreeViewView::ItemOf(int position) {
   return item == nullptr ? nullptr : item->handle;
 }
 
-void TreeViewView::SetState(HTREEITEM item, UINT state, UINT mask) const {
-  TVITEMW changed{};
-  changed.mask = TVIF_STATE | TVIF_HANDLE;
-  changed.hItem = item;
-  changed.state = state;
-  changed.stateMask = mask;
-  Send(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&changed));
+void TreeViewView::Tell(TVITEMW& asked) const {
+  const int position = PositionOf(asked.hItem);
+  if (position == 0) return;
+  const TreeView::Node& node = tree_.At(position);
+  if ((asked.mask & TVIF_STATE) != 0) {
+    asked.state &= ~static_cast<UINT>(TVIS_STATEIMAGEMASK);
+    asked.state |= BoxState(node.checked);
+  }
+  if ((asked.mask & TVIF_TEXT) == 0 || asked.cchTextMax <= 0) return;
+  const std::size_t length =
+      std::min(node.text.size(), static_cast<std::size_t>(asked.cchTextMax) - 1);
+  std::copy_n(node.text.begin(), length, asked.pszText);
+  asked.pszText[length] = 0;
 }
 
 void TreeViewView::RemoveStale() {
@@ -96,46 +103,56 @@ void TreeViewView::AddMissing() {
     // The last one by name would be looked for among all.
     added.hInsertAfter = last == nullptr ? TVI_FIRST : last;
     added.item.mask = TVIF_TEXT | TVIF_PARAM | TVIF_STATE;
-    added.item.pszText = LPSTR_TEXTCALLBACKW;
+    added.item.pszText = const_cast<wchar_t*>(Wide(node.text));  // only read
     added.item.lParam = static_cast<LPARAM>(node.id);
     added.item.state = StateOf(node);
     added.item.stateMask = TVIS_STATEIMAGEMASK | TVIS_EXPANDED;
     last = reinterpret_cast<HTREEITEM>(Send(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&added)));
-    items_.push_back({node.id, last, nullptr, node.checked, node.expanded});
+    items_.push_back({node.id, last, nullptr, node.checked, node.expanded, false});
   }
 }
 
-void TreeViewView::ShowStates() {
+void TreeViewView::ShowExpanded() {
   for (std::size_t i = 0; i < items_.size(); ++i) {
-    const TreeView::Node& node = tree_.At(static_cast<int>(i) + 1);
     Item& item = items_[i];
-    if (item.checked != node.checked) {
-      item.checked = node.checked;
-      SetState(item.handle, BoxState(node.checked), TVIS_STATEIMAGEMASK);
-    }
-    if (item.expanded == node.expanded) continue;
-    item.expanded = node.expanded;
+    const bool expanded = tree_.At(static_cast<int>(i) + 1).expanded;
+    if (item.expanded == expanded) continue;
+    item.expanded = expanded;
+    const auto handle = reinterpret_cast<LPARAM>(item.handle);
     if (item.last_child != nullptr) {
-      Send(TVM_EXPAND, node.expanded ? TVE_EXPAND : TVE_COLLAPSE,
-           reinterpret_cast<LPARAM>(item.handle));
-    } else {
-      SetState(item.handle, node.expanded ? TVIS_EXPANDED : 0, TVIS_EXPANDED);
+      Send(TVM_EXPAND, expanded ? TVE_EXPAND : TVE_COLLAPSE, handle);
+      continue;
     }
+    // The window expands only what has children.
+    TVITEMW changed{};
+    changed.mask = TVIF_STATE | TVIF_HANDLE;
+    changed.hItem = item.handle;
+    changed.stateMask = TVIS_EXPANDED;
+    changed.state = expanded ? TVIS_EXPANDED : 0;
+    Send(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&changed));
   }
 }
 
-void TreeViewView::ShowTexts() {
-  std::sort(stale_texts_.begin(), stale_texts_.end());
-  const auto end = std::unique(stale_texts_.begin(), stale_texts_.end());
-  for (auto id = stale_texts_.begin(); id != end; ++id) {
-    TVITEMW changed{};
-    changed.mask = TVIF_TEXT | TVIF_HANDLE;
-    changed.hItem = ItemOf(tree_.PositionOf(*id));
-    // The window forgets how wide the old one was.
-    changed.pszText = LPSTR_TEXTCALLBACKW;
-    if (changed.hItem != nullptr) Send(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&changed));
+void TreeViewView::ShowInSight() {
+  const Showing showing(*this);
+  LRESULT handle = Send(TVM_GETNEXTITEM, TVGN_FIRSTVISIBLE);
+  // One more is cut by the lower edge.
+  for (LRESULT left = Send(TVM_GETVISIBLECOUNT) + 1; handle != 0 && left > 0; --left) {
+    const int position = PositionOf(reinterpret_cast<HTREEITEM>(handle));
+    Item* item = position == 0 ? nullptr : Find(tree_.At(position).id);
+    if (item != nullptr && (item->other_text || item->checked != tree_.At(position).checked)) {
+      TVITEMW changed{};
+      changed.mask = TVIF_STATE | TVIF_TEXT | TVIF_HANDLE;
+      changed.hItem = item->handle;
+      changed.state = BoxState(tree_.At(position).checked);
+      changed.stateMask = TVIS_STATEIMAGEMASK;
+      changed.pszText = const_cast<wchar_t*>(Wide(tree_.At(position).text));  // only read
+      Send(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&changed));
+      item->checked = tree_.At(position).checked;
+      item->other_text = false;
+    }
+    handle = Send(TVM_GETNEXTITEM, TVGN_NEXTVISIBLE, handle);
   }
-  stale_texts_.clear();
 }
 
 void TreeViewView::ShowSelection() {
@@ -144,15 +161,13 @@ void TreeViewView::ShowSelection() {
   Send(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(wanted));
 }
 
-void TreeViewView::Synchronize(bool many) {
+void TreeViewView::Synchronize() {
   // The selection that the window makes up when its selected item goes is none of the user's.
   const Showing showing(*this);
-  std::optional<Undrawn> undrawn;
-  if (many) undrawn.emplace(window());
+  const Undrawn undrawn(window());
   RemoveStale();
   AddMissing();
-  ShowStates();
-  ShowTexts();
+  ShowExpanded();
   ShowSelection();
 }
 

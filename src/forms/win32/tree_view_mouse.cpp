@@ -150,6 +150,23 @@ LRESULT TreeViewView::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       TellTooltip(reinterpret_cast<NMTTDISPINFOW&>(header));
       return 0;
     }
+    case WM_PAINT:
+      ShowInSight();
+      break;
+    case TVM_GETITEMW: {
+      const LRESULT result = Default(message, wparam, lparam);
+      auto& asked = *reinterpret_cast<TVITEMW*>(lparam);
+      if (result != 0 && !showing()) Tell(asked);
+      return result;
+    }
+    case TVM_GETITEMSTATE: {
+      TVITEMW asked{};
+      asked.mask = (lparam & TVIS_STATEIMAGEMASK) != 0 ? TVIF_STATE : 0;
+      asked.hItem = reinterpret_cast<HTREEITEM>(wparam);
+      asked.state = static_cast<UINT>(Default(message, wparam, lparam));
+      Tell(asked);
+      return static_cast<LRESULT>(asked.state);
+    }
     case TVM_SETITEMW: {
       // A box set from outside, by an aid to access or by a test.
       const auto& item = *reinterpret_cast<const TVITEMW*>(lparam);

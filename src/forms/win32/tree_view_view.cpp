@@ -9,9 +9,9 @@ namespace orvik::forms::win32 {
 
 namespace {
 
-constexpr Changes kMany = Bit(Property::kAdd) | Bit(Property::kRemove) | Bit(Property::kClear);
 constexpr Changes kItems =
-    kMany | Bit(Property::kItem) | Bit(Property::kChecked) | Bit(Property::kExpanded);
+    Bit(Property::kAdd) | Bit(Property::kRemove) | Bit(Property::kClear) | Bit(Property::kExpanded);
+constexpr Changes kLooks = Bit(Property::kItem) | Bit(Property::kChecked);
 
 }  // namespace
 
@@ -27,7 +27,7 @@ TreeViewView::TreeViewView(TreeView& tree, FormWindow& form)
   Send(TVM_SETEXTENDEDSTYLE, TVS_EX_DOUBLEBUFFER, TVS_EX_DOUBLEBUFFER);
   ShowBoxes();
   ShowTooltip();
-  Synchronize(true);
+  Synchronize();
 }
 
 TreeViewView::~TreeViewView() {
@@ -44,8 +44,7 @@ void TreeViewView::ShowBoxes() {
 
 void TreeViewView::Changed(Change change) {
   if (change.property == Property::kItem) {
-    const std::uint32_t id = tree_.At(change.position).id;
-    if (stale_texts_.empty() || stale_texts_.back() != id) stale_texts_.push_back(id);
+    if (Item* item = Find(tree_.At(change.position).id)) item->other_text = true;
   }
   ControlView::Changed(change);
 }
@@ -58,11 +57,12 @@ void TreeViewView::Rescale() {
 void TreeViewView::Refresh(Changes changes) {
   ControlView::Refresh(changes);
   if ((changes & kItems) != 0) {
-    Synchronize((changes & kMany) != 0);
+    Synchronize();
   } else if ((changes & Bit(Property::kSelected)) != 0) {
     const Showing showing(*this);
     ShowSelection();
   }
+  if ((changes & kLooks) != 0) InvalidateRect(window(), nullptr, FALSE);
   if ((changes & Bit(Property::kTooltip)) != 0) ShowTooltip();
 }
 
@@ -93,16 +93,6 @@ void TreeViewView::TellTooltip(NMTTDISPINFOW& asked) {
 
 std::optional<LRESULT> TreeViewView::OnNotify(NMHDR& header) {
   switch (header.code) {
-    case TVN_GETDISPINFOW: {
-      TVITEMW& item = reinterpret_cast<NMTVDISPINFOW&>(header).item;
-      const int position = tree_.PositionOf(static_cast<std::uint32_t>(item.lParam));
-      static const Text none;
-      if ((item.mask & TVIF_TEXT) != 0) {
-        // Only read. A node that has gone is still asked for until its item has gone too.
-        item.pszText = const_cast<wchar_t*>(Wide(position != 0 ? tree_.At(position).text : none));
-      }
-      return 0;
-    }
     case TVN_SELCHANGINGW:
       // The window takes its first item when it gets the keyboard; the user has chosen none.
       return focusing_ && !showing() ? 1 : 0;

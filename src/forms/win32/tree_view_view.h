@@ -8,9 +8,11 @@
 
 namespace orvik::forms::win32 {
 
-// The system's tree view. Its items hold nothing but the id of their node and the state of the box:
-// texts are asked for when they come into sight. The items are brought up to the model in batches,
-// whatever has happened since the last one.
+// The system's tree view. Its items are brought up to the model in batches, whatever has happened
+// since the last one. Changed boxes and texts of items are given to the window when they come into
+// sight, so that a change of all 30,000 costs as much as one of those in sight; whoever asks the
+// window for others is answered from the model. Texts aren't left for the window to ask for, as it
+// would ask for all of them at every change to know its width.
 class TreeViewView : public ControlView {
  public:
   TreeViewView(TreeView& tree, FormWindow& form);
@@ -32,19 +34,20 @@ class TreeViewView : public ControlView {
     HTREEITEM last_child;
     bool checked;
     bool expanded;
+    bool other_text;  // than the window knows
   };
 
   // The items of the window and the model's nodes, brought together.
-  // `many` says that the window isn't worth drawing on the way.
-  void Synchronize(bool many);
+  void Synchronize();
   void RemoveStale();
   void AddMissing();
-  void ShowStates();
-  void ShowTexts();
+  void ShowExpanded();
+  void ShowInSight();
   void ShowSelection();
-  void SetState(HTREEITEM item, UINT state, UINT mask) const;
   // The position of the node that an item shows, 0 for none.
   int PositionOf(HTREEITEM item) const;
+  // Puts the node's true text and box into what the window has answered.
+  void Tell(TVITEMW& asked) const;
   HTREEITEM ItemOf(int position);
   Item* Find(std::uint32_t id);
 
@@ -66,7 +69,6 @@ class TreeViewView : public ControlView {
   TreeView& tree_;
   std::vector<Item> items_;  // in the order of ids
   HTREEITEM last_root_ = nullptr;
-  std::vector<std::uint32_t> stale_texts_;  // ids
   HIMAGELIST boxes_ = nullptr;
   bool focusing_ = false;
   // The node whose cut text the tool tip may show.

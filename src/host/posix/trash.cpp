@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <ctime>
 #include <optional>
+#include <unordered_map>
 
 #include "host/posix/change_names.h"
 #include "host/posix/native_files.h"
@@ -103,7 +104,10 @@ bool MoveInto(const std::string& path, const std::string& trash, const std::stri
   }
   const std::string name = path.substr(path.rfind('/') + 1);
   const std::string note = Note(noted_path);
-  for (int number = 1; number < kMostNumbered; ++number) {
+  // Thousands of things may have one name: what this process found taken isn't tried again.
+  static std::unordered_map<std::string, int> numbers;
+  for (int& number = numbers.try_emplace(trash + '/' + name, 1).first->second;
+       number < kMostNumbered; ++number) {
     const Outcome outcome = MoveUnder(path, trash, NameInTrash(name, number), note);
     if (outcome != Outcome::kTaken) return outcome == Outcome::kMoved;
   }
