@@ -163,10 +163,14 @@ TEST_F(Skins, ARealPressDragsTheForm) {
   GetWindowRect(WindowOf(strip_), &before);
   SetCursorPos(before.left + 30, before.top + 8);
   mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
-  mouse_event(MOUSEEVENTF_MOVE, 60, 40, 0, 0);
-  mouse_event(MOUSEEVENTF_MOVE, 1, 1, 0, 0);
-  mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
-  PumpFor(300);
+  // The rest of the doing happens while the system drags.
+  const UINT_PTR timer = SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR, DWORD) {
+    static int step = 0;
+    mouse_event(step < 4 ? MOUSEEVENTF_MOVE : MOUSEEVENTF_LEFTUP, 15, 10, 0, 0);
+    ++step;
+  });
+  PumpFor(500);
+  KillTimer(nullptr, timer);
   GetWindowRect(WindowOf(strip_), &after);
   EXPECT_GT(after.left, before.left + 20);
   EXPECT_GT(after.top, before.top + 10);
