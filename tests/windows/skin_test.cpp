@@ -125,6 +125,23 @@ TEST_F(Skins, LabelsHaveTheirColorsOnBlack) {
   EXPECT_EQ(At(200, 255), 0x0040C0U) << "the line";
 }
 
+TEST_F(Skins, ALongCaptionGetsASmallerFont) {
+  Show();
+  const auto height = [&] {
+    LOGFONTW font{};
+    GetObjectW(reinterpret_cast<HGDIOBJ>(Send(strip_.value, WM_GETFONT)), sizeof font, &font);
+    return std::abs(font.lfHeight);
+  };
+  const LONG usual = height();
+  strip_.value.SetCaption(u" 1234567890 Mb");
+  Pump();
+  EXPECT_LT(height(), usual);
+  EXPECT_GE(height(), usual * 3 / 4);
+  strip_.value.SetCaption(u" 5 Mb");
+  Pump();
+  EXPECT_EQ(height(), usual);
+}
+
 TEST_F(Skins, PressesAndClicksAreTold) {
   Show();
   std::string told;
