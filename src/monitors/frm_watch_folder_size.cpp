@@ -29,7 +29,6 @@ frmWatchFolderSize::frmWatchFolderSize()
   MakeSkinned();
   frRights.SetStyle({.color = kTitleColor, .bold = true, .serif = true});
   frFolder.SetStyle({.color = kTitleColor, .bold = true});
-  frFolder.SetCut(forms::Label::Cut::kPath);
   frSizeMB.SetStyle({.color = kValueColor});
   lnOne.SetColor(kTitleColor);
   pbExit.SetHint(u"Закрыть");

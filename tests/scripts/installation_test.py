@@ -5,8 +5,8 @@ registry holds it, with a file in place of the placeholder whose path has blanks
     installation_test.py linux ORVIK_HEADLESS
     installation_test.py wine ORVIK_EXE            needs a screen
 
-Under Wine the programs that would be started are stand-ins that note their command lines; so are
-taskkill and Explorer, between which the batch file runs a program.
+Under Wine the programs that would be started are stand-ins that note their command lines; so is
+the Explorer that the batch file brings back. The one that it ends is of the test's own prefix.
 """
 
 import json
@@ -34,9 +34,6 @@ INSTALLED = "Программа установлена"
 KNOWN = "Версия zKelmar's Orvik  v 0.9.8.3 FN уже установлена"
 
 FOLDER = "Мои файлы 2024"
-DOS_FILE = "T:\\%s\\дос 1.txt" % FOLDER
-LINK = "T:\\%s\\на игру.lnk" % FOLDER
-GAME = "T:\\%s\\игра.exe" % FOLDER
 
 
 def must(condition, *facts):
@@ -58,6 +55,11 @@ def unnamed_values(exported):
         elif line.startswith('@="'):
             values[key] = re.sub(r"\\(.)", r"\1", line[3:-1])
     return values
+
+
+def paths(drive):
+    """A text of DOS, a shortcut and a program."""
+    return ["%s\\%s\\%s" % (drive, FOLDER, name) for name in ("дос 1.txt", "на игру.lnk", "игра.exe")]
 
 
 class Linux:
@@ -102,6 +104,7 @@ def started(events):
 
 def test_linux(program, work):
     here = Linux(program, work)
+    text, link, game = paths("T:")
     search = "HKEY_CLASSES_ROOT\\Drive\\shell\\find\\command||%SystemRoot%\\explorer.exe"
     before = here.everything()
     same(texts(here.run("", "--reg", search)), [INSTALLED])
@@ -129,31 +132,31 @@ def test_linux(program, work):
     write_files(here.tree)
     with open(os.path.join(here.tree, FOLDER, "игра.exe"), "wb"):
         pass
-    here.run("/CHS " + LINK)  # makes a shortcut of what isn't one
-    same(choose(TEXT, DOS_FILE), ['"C:\\Windows\\NOTEPAD.EXE" "%s"' % DOS_FILE])
-    same(choose(DOS, DOS_FILE), ['"C:\\Windows\\notepad.exe" C:\\Windows\\Temp\\Orvik.txt'])
+    here.run("/CHS " + link)  # makes a shortcut of what isn't one
+    same(choose(TEXT, text), ['"C:\\Windows\\NOTEPAD.EXE" "%s"' % text])
+    same(choose(DOS, text), ['"C:\\Windows\\notepad.exe" C:\\Windows\\Temp\\Orvik.txt'])
     must_be_readable(os.path.join(here.temp, "Orvik.txt"))
-    same(choose(TARGET, LINK), ['"C:\\Windows\\explorer.exe" /select, C:\\Windows\\Orvik.exe'])
+    same(choose(TARGET, link), ['"C:\\Windows\\explorer.exe" /select, C:\\Windows\\Orvik.exe'])
     now = ("--now", "2024-02-29 13:05:09")
     batch = os.path.join(here.temp, "wb240229130509.bat")
-    for key, path, folder, name in ((RUN, GAME, "T:\\%s\\" % FOLDER, None),
-                                    (RUN_TARGET, LINK, "C:\\Windows\\", "ORVIK.EXE")):
+    for key, path, folder, name in ((RUN, game, "T:\\%s\\" % FOLDER, None),
+                                    (RUN_TARGET, link, "C:\\Windows\\", "ORVIK.EXE")):
         same(choose(key, path, *now), ["C:\\Windows\\Temp\\wb240229130509.bat"])
         lines = batch_lines(batch)
         same(lines[2], 'chdir "%s"' % folder)
         must(lines[3].startswith("start /wait ") and len(lines[3]) > 12, lines[3])
         if name:
             same(lines[3].upper(), "START /WAIT " + name)
-    test_repair(here)
+    test_repair(here, link)
 
 
-def test_repair(here):
+def test_repair(here, link):
     """The shortcut of the redirection leads to C:\\Windows\\Orvik.exe. A tree on another drive has
     that path, too; there the repair finds it when C: hasn't."""
     os.makedirs(os.path.join(here.tree, "Windows"))
     os.rename(os.path.join(here.windows, "Orvik.exe"), os.path.join(here.tree, "Windows", "Orvik.exe"))
     before = set(here.everything())
-    same(started(here.run("/SHP " + LINK)), [])
+    same(started(here.run("/SHP " + link)), [])
     # Under its bare name, in the current folder.
     same(sorted(set(here.everything()) - before), ["tree/на игру.lnk"])
     same(started(here.run("/GOP T:\\на игру.lnk")),
@@ -183,17 +186,15 @@ def batch_lines(path):
 class WinePlace:
     def __init__(self, program, work):
         self.prefix = os.path.join(ROOT, "build", "wine", "installation")
-        self.tree = os.path.join(work, "tree")
+        self.tree = os.path.join(self.prefix, "drive_c")
         self.work = work
-        self.program = program
         self.robot = os.path.join(os.path.dirname(program), "..", "tests", "robot",
                                   "orvik-robot.exe")
         self.stand_in = os.path.join(os.path.dirname(program), "..", "tests", "note-arguments.exe")
-        self.windows = os.path.join(self.prefix, "drive_c", "windows")
-        os.makedirs(os.path.join(self.tree, FOLDER))
+        self.windows = os.path.join(self.tree, "windows")
 
     def wine(self, *command):
-        return subprocess.run([Wine.wine_run, "--drive", "T=" + self.tree, *command],
+        return subprocess.run([Wine.wine_run, *command],
                               stdin=subprocess.DEVNULL, capture_output=True, check=False,
                               timeout=120, env={**os.environ, "ORVIK_WINE_PREFIX": self.prefix})
 
@@ -205,7 +206,11 @@ class WinePlace:
                   "%SystemRoot%\\explorer.exe", "/f")
         if os.path.exists(os.path.join(self.windows, "Orvik.exe")):
             os.remove(os.path.join(self.windows, "Orvik.exe"))
-        for name in ("notepad.exe", "explorer.exe", "system32/taskkill.exe"):
+        shutil.rmtree(os.path.join(self.tree, FOLDER), ignore_errors=True)
+        os.makedirs(os.path.join(self.tree, FOLDER))
+        for name in ("notepad.exe", "explorer.exe"):
+            if os.path.exists(os.path.join(self.windows, name + ".args")):
+                os.remove(os.path.join(self.windows, name + ".args"))
             shutil.copy(self.stand_in, os.path.join(self.windows, name))
         shutil.copy(self.stand_in, os.path.join(self.tree, FOLDER, "игра.exe"))
 
@@ -216,8 +221,10 @@ class WinePlace:
             pass
         done = self.wine(self.robot, "--program", program, "--script", windows_path(script), "--",
                          line)
-        must(done.returncode == 0, "the robot ended with", done.returncode, done.stderr.decode())
-        return [json.loads(event) for event in done.stdout.decode().splitlines()]
+        must(done.returncode == 0, "the robot ended with", done.returncode, done.stderr.decode("cp1251"))
+        # A batch file echoes its commands between the robot's lines.
+        return [json.loads(line) for line in done.stdout.splitlines()
+                if line.startswith(b'{"event"')]
 
     def stored(self):
         values = {}
@@ -246,6 +253,8 @@ class WinePlace:
 
 def test_wine(program, work):
     here = WinePlace(program, work)
+    # On a drive that outlives the program: what it starts comes later.
+    text, link, game = paths("C:")
     here.reset()
     write_files(here.tree)
     same(texts(here.run(windows_path(program), "")), [INSTALLED])
@@ -264,25 +273,22 @@ def test_wine(program, work):
         same(texts(here.run(exe, stored[key].split(" ", 1)[1].replace("%L", path))), [])
 
     notepad = os.path.join(here.windows, "notepad.exe")
-    choose(TEXT, DOS_FILE)
-    must(here.noted(notepad).endswith(' "%s"' % DOS_FILE), "another file was opened")
-    choose(DOS, DOS_FILE)
+    choose(TEXT, text)
+    must(here.noted(notepad).endswith(' "%s"' % text), "another file was opened")
+    choose(DOS, text)
     scratch = here.noted(notepad).split('exe" ', 1)[1]
     must(scratch.endswith("\\Orvik.txt"), scratch)
     must_be_readable(os.path.join(here.prefix, "drive_c", *scratch[3:].split("\\")))
-    choose(RUN, GAME)
-    game = os.path.join(here.tree, FOLDER, "игра.exe")
-    must(here.noted(os.path.join(here.windows, "system32", "taskkill.exe"))
-         .endswith("/F /IM explorer.exe"), "the shell wasn't ended")
-    here.noted(game)
+    choose(RUN, game)
+    stand_in = os.path.join(here.tree, FOLDER, "игра.exe")
+    here.noted(stand_in)
     here.noted(os.path.join(here.windows, "explorer.exe"))
-    make_link(os.path.join(here.tree, FOLDER, "на игру.lnk"), GAME)
-    choose(RUN_TARGET, LINK)
-    here.noted(os.path.join(here.windows, "system32", "taskkill.exe"))
-    here.noted(game)
+    make_link(os.path.join(here.tree, FOLDER, "на игру.lnk"), game)
+    choose(RUN_TARGET, link)
+    here.noted(stand_in)
     here.noted(os.path.join(here.windows, "explorer.exe"))
-    choose(TARGET, LINK)
-    must(here.noted(os.path.join(here.windows, "explorer.exe")).endswith(" /select, " + GAME),
+    choose(TARGET, link)
+    must(here.noted(os.path.join(here.windows, "explorer.exe")).endswith(" /select, " + game),
          "another target was shown")
 
 

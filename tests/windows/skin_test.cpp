@@ -125,6 +125,23 @@ TEST_F(Skins, LabelsHaveTheirColorsOnBlack) {
   EXPECT_EQ(At(200, 255), 0x0040C0U) << "the line";
 }
 
+TEST_F(Skins, ALongCaptionGetsASmallerFont) {
+  Show();
+  const auto height = [&] {
+    LOGFONTW font{};
+    GetObjectW(reinterpret_cast<HGDIOBJ>(Send(strip_.value, WM_GETFONT)), sizeof font, &font);
+    return std::abs(font.lfHeight);
+  };
+  const LONG usual = height();
+  strip_.value.SetCaption(u" 1234567890 Mb");
+  Pump();
+  EXPECT_LT(height(), usual);
+  EXPECT_GE(height(), usual * 3 / 4);
+  strip_.value.SetCaption(u" 5 Mb");
+  Pump();
+  EXPECT_EQ(height(), usual);
+}
+
 TEST_F(Skins, PressesAndClicksAreTold) {
   Show();
   std::string told;
@@ -163,10 +180,14 @@ TEST_F(Skins, ARealPressDragsTheForm) {
   GetWindowRect(WindowOf(strip_), &before);
   SetCursorPos(before.left + 30, before.top + 8);
   mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
-  mouse_event(MOUSEEVENTF_MOVE, 60, 40, 0, 0);
-  mouse_event(MOUSEEVENTF_MOVE, 1, 1, 0, 0);
-  mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
-  PumpFor(300);
+  // The rest of the doing happens while the system drags.
+  const UINT_PTR timer = SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR, DWORD) {
+    static int step = 0;
+    mouse_event(step < 4 ? MOUSEEVENTF_MOVE : MOUSEEVENTF_LEFTUP, 15, 10, 0, 0);
+    ++step;
+  });
+  PumpFor(500);
+  KillTimer(nullptr, timer);
   GetWindowRect(WindowOf(strip_), &after);
   EXPECT_GT(after.left, before.left + 20);
   EXPECT_GT(after.top, before.top + 10);

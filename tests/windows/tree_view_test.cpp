@@ -348,6 +348,22 @@ TEST_F(Trees, TheToolTipIsTheModels) {
   EXPECT_EQ(shown, u" -123456");
 }
 
+TEST_F(Trees, LieOnTheColorOfWindows) {
+  Fill();
+  UpdateWindow(WindowOf(form_.tree));
+  const auto color = [&] {
+    const HDC context = GetDC(WindowOf(form_.tree));
+    const COLORREF at = GetPixel(context, 300, 300);
+    ReleaseDC(WindowOf(form_.tree), context);
+    return at;
+  };
+  EXPECT_EQ(color(), GetSysColor(COLOR_WINDOW));
+  form_.tree.Clear();
+  Pump();
+  UpdateWindow(WindowOf(form_.tree));
+  EXPECT_EQ(color(), GetSysColor(COLOR_WINDOW));
+}
+
 ULONGLONG Since(ULONGLONG start) { return GetTickCount64() - start; }
 
 TEST_F(Trees, ThirtyThousandNodesStayUsable) {

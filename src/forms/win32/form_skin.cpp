@@ -1,4 +1,5 @@
 // What a form draws by itself: its lines, and all of a form without border and title bar.
+#include "forms/win32/control_view.h"
 #include "forms/win32/form_window.h"
 
 namespace orvik::forms::win32 {
@@ -45,6 +46,10 @@ void FormWindow::Paint() const {
 }
 
 bool FormWindow::Erase(HDC context) const {
+  // Wine has the form draw its background over all of a tree for each button in the tree.
+  const HWND asking = WindowFromDC(context);
+  const ControlView* view = asking != window_ ? ControlView::Of(asking) : nullptr;
+  if (view != nullptr && view->control().kind() == Kind::kTreeView) return true;
   if (!form_.skinned()) return false;
   RECT all;
   GetClientRect(window_, &all);

@@ -6,6 +6,9 @@ namespace orvik::forms::win32 {
 
 namespace {
 
+// How much lower a font may become for its caption's sake, in pixels at 96 dots to the inch.
+constexpr int kLowestBy = 3;
+
 // Room for two lines, by the line height of the layouts.
 constexpr int kTwoLines = 2 * 195;
 
@@ -34,8 +37,15 @@ void LabelView::Rescale() {
 
 void LabelView::ShowFont() {
   const auto& style = label_.style();
-  if (!style || (!style->bold && !style->serif)) return;
-  const HFONT font = form().metrics().MakeFont(style->bold, style->serif);
+  if (!style) return;
+  const Metrics& metrics = form().metrics();
+  const RECT area = Area();
+  HFONT font = nullptr;
+  for (int lower = 0; lower <= metrics.Scaled(kLowestBy); ++lower) {
+    if (font != nullptr) DeleteObject(font);
+    font = metrics.MakeFont(style->bold, style->serif, lower);
+    if (Metrics::TextWidth(label_.caption(), font) <= area.right - area.left) break;
+  }
   Send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
   if (font_ != nullptr) DeleteObject(font_);
   font_ = font;
@@ -67,7 +77,9 @@ RECT LabelView::Area() const {
 
 void LabelView::Refresh(Changes changes) {
   ControlView::Refresh(changes);
-  if ((changes & Bit(Property::kCaption)) != 0) SetWindowTextW(window(), Wide(label_.caption()));
+  if ((changes & Bit(Property::kCaption)) == 0) return;
+  ShowFont();
+  SetWindowTextW(window(), Wide(label_.caption()));
 }
 
 void LabelView::OnCommand(WORD code) {

@@ -24,7 +24,7 @@ class LabelView : public ControlView {
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
 
  private:
-  // Sets the font of a label in a style of its own.
+  // Sets the font of a label in a style of its own, smaller where the caption needs it.
   void ShowFont();
 
   const Label& label_;

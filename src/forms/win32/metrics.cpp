@@ -50,8 +50,10 @@ Metrics::Metrics(int dpi) : dpi_(dpi) {
 
 Metrics::~Metrics() { DeleteObject(font_); }
 
-HFONT Metrics::MakeFont(bool bold, bool serif) const {
+HFONT Metrics::MakeFont(bool bold, bool serif, int lower) const {
   LOGFONTW description = MessageFont(dpi_);
+  // Negative, as it is the height of the letters.
+  description.lfHeight += lower;
   if (bold) description.lfWeight = FW_BOLD;
   if (serif) {
     description.lfPitchAndFamily = FF_ROMAN | VARIABLE_PITCH;
@@ -60,9 +62,9 @@ HFONT Metrics::MakeFont(bool bold, bool serif) const {
   return CreateFontIndirectW(&description);
 }
 
-int Metrics::TextWidth(const Text& text) const {
+int Metrics::TextWidth(const Text& text, HFONT font) {
   const ScreenContext screen;
-  const Selected selected(screen.get(), font_);
+  const Selected selected(screen.get(), font);
   SIZE size{};
   GetTextExtentPoint32W(screen.get(), Wide(text), static_cast<int>(text.size()), &size);
   return size.cx;

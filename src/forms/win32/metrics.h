@@ -16,8 +16,8 @@ class Metrics {
   int dpi() const { return dpi_; }
   // The system's message font.
   HFONT font() const { return font_; }
-  // A font like it, bold or with serifs, which the caller deletes.
-  HFONT MakeFont(bool bold, bool serif) const;
+  // A font like it, bold or with serifs, lower by so many pixels; the caller deletes it.
+  HFONT MakeFont(bool bold, bool serif, int lower) const;
   // The height of a line of text in pixels.
   int line_height() const { return line_height_; }
 
@@ -25,8 +25,9 @@ class Metrics {
   int Twips(int pixels) const { return MulDiv(pixels, 1440, dpi_); }
   // Pixels at 96 dots to the inch, in those of this resolution.
   int Scaled(int pixels) const { return MulDiv(pixels, dpi_, 96); }
-  // The width of a text in the font.
-  int TextWidth(const Text& text) const;
+  // The width of a text in the font, or in another one.
+  int TextWidth(const Text& text) const { return TextWidth(text, font_); }
+  static int TextWidth(const Text& text, HFONT font);
 
  private:
   const int dpi_;

@@ -15,7 +15,7 @@ class Undrawn {
   explicit Undrawn(HWND window) : window_(window) { SendMessageW(window, WM_SETREDRAW, FALSE, 0); }
   ~Undrawn() {
     SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
-    InvalidateRect(window_, nullptr, FALSE);
+    InvalidateRect(window_, nullptr, TRUE);
   }
   Undrawn(const Undrawn&) = delete;
   Undrawn& operator=(const Undrawn&) = delete;

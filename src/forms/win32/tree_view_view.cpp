@@ -62,7 +62,7 @@ void TreeViewView::Refresh(Changes changes) {
     const Showing showing(*this);
     ShowSelection();
   }
-  if ((changes & kLooks) != 0) InvalidateRect(window(), nullptr, FALSE);
+  if ((changes & kLooks) != 0) InvalidateRect(window(), nullptr, TRUE);
   if ((changes & Bit(Property::kTooltip)) != 0) ShowTooltip();
 }
 
