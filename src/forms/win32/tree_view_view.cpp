@@ -71,8 +71,9 @@ void TreeViewView::ShowTooltip() { form().SetTooltip(*this, tree_.tooltip()); }
 RECT TreeViewView::TextArea(HTREEITEM item) const {
   RECT area{};
   // The way in, the rectangle holds the item.
-  static_assert(sizeof area >= sizeof item);
-  std::memcpy(&area, &item, sizeof item);
+  const auto handle = reinterpret_cast<std::uintptr_t>(item);
+  static_assert(sizeof area >= sizeof handle);
+  std::memcpy(&area, &handle, sizeof handle);
   const bool in_sight = Send(TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&area)) != 0;
   return in_sight ? area : RECT{};
 }
