@@ -13,11 +13,12 @@ import tempfile
 import time
 from pathlib import Path
 
+from finding import Finding
 from jobs import FLOOR, ORVIK, Job, Jobs, WrongResult
 
 HEAD = (f"| job | {ORVIK} | bare {FLOOR} | other programs |", "|---|---|---|---|")
 GROUPS = ("checksum", "fast", "walk", "copy", "update", "list", "folders", "lists", "empty", "delete",
-          "base")
+          "base", "duplicates", "search", "xor")
 LEGEND = (f"Seconds for {ORVIK}; for everything else the time of {ORVIK} divided by its time, so that "
           "less than 1 means that Orvik is faster.")
 
@@ -51,6 +52,18 @@ def measure(job: Job, runs: int) -> dict[str, float]:
     return {name: statistics.median(values) for name, values in times.items()}
 
 
+def peaks(job: Job) -> str:
+    """A note on the most memory that each contestant takes."""
+    told = []
+    for contestant in job.contestants:
+        with tempfile.NamedTemporaryFile("r") as report:
+            # A process begun by this one would count this one's memory as its own.
+            subprocess.run(["time", "-f", "%M", "-o", report.name, *contestant.command(0)],
+                           stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False)
+            told.append(f"{contestant.name} {int(report.read().split()[-1]) / 1024:.0f}")
+    return f"Peak memory in MiB, {job.name}: {', '.join(told)}."
+
+
 def row(job: Job, medians: dict[str, float]) -> str:
     own = medians[ORVIK]
     ratios = {name: f"{own / value:.2f}" for name, value in medians.items() if name != ORVIK}
@@ -69,7 +82,7 @@ def table(options: argparse.Namespace, scratch: Path) -> str:
     jobs = Jobs(scratch, options.build.resolve(), options.scale)
     lines = list(HEAD)
     notes: dict[str, None] = {}
-    for name, make in jobs.all().items():
+    for name, make in (jobs.all() | Finding(jobs).all()).items():
         if options.only and name not in options.only:
             continue
         say(f"bench: {name}: making files")
@@ -77,6 +90,8 @@ def table(options: argparse.Namespace, scratch: Path) -> str:
             say(f"bench: {job.name}: {options.runs} runs")
             lines.append(row(job, measure(job, options.runs)))
             notes |= dict.fromkeys(job.notes)
+            if job.memory:
+                notes[peaks(job)] = None
     said = " ".join([f"Medians of {options.runs} interleaved runs; {machine(scratch)}.", LEGEND,
                      *notes])
     return "\n".join(lines) + f"\n\n{said}\n"

@@ -3,6 +3,7 @@
 //   orvik-bench-floor walk FOLDER            lists a tree
 //   orvik-bench-floor sample FOLDER          reads two blocks of each file of a tree
 //   orvik-bench-floor blocks FOLDER          the same, larger ones
+//   orvik-bench-floor contents FOLDER        reads each file of a tree, none longer than a mebibyte
 //   orvik-bench-floor read FILE              reads a file
 //   orvik-bench-floor copy FOLDER TARGET     copies a tree to a folder that doesn't exist
 //   orvik-bench-floor compare FOLDER TARGET  reads two blocks of each file in both trees
@@ -28,6 +29,7 @@ namespace {
 
 constexpr std::size_t kBlock = 512;
 constexpr std::size_t kLargeBlock = 32768;
+constexpr std::size_t kWhole = 1 << 20;
 constexpr std::size_t kChunk = 1 << 18;
 
 [[noreturn]] void Fail(const char* what, const std::string& path) {
@@ -95,7 +97,8 @@ void Sample(int folder, const char* name, std::size_t block = kBlock) {
   const int fd = openat(folder, name, O_RDONLY);
   struct stat status;
   if (fd < 0 || fstat(fd, &status) != 0) Fail("open", name);
-  static std::array<char, 2 * kLargeBlock> buffer;
+  static std::vector<char> buffer;
+  buffer.resize(2 * block);
   Read(fd, buffer.data(), block, 0, name);
   if (status.st_size > static_cast<off_t>(block)) {
     Read(fd, buffer.data() + block, block, status.st_size - 1 - static_cast<off_t>(block), name);
@@ -175,6 +178,8 @@ int main(int argc, char** argv) {
     files = SampleAll(arguments[1], kBlock);
   } else if (is("blocks", 2)) {
     files = SampleAll(arguments[1], kLargeBlock);
+  } else if (is("contents", 2)) {
+    files = SampleAll(arguments[1], kWhole);
   } else if (is("read", 2)) {
     files = ReadAll(arguments[1]);
   } else if (is("read", 3)) {
@@ -185,7 +190,8 @@ int main(int argc, char** argv) {
     files = Compare(arguments[1], arguments[2]);
   } else {
     std::fprintf(stderr,
-                 "usage: orvik-bench-floor walk|sample|blocks|read|copy|compare PATH [TARGET]\n");
+                 "usage: orvik-bench-floor walk|sample|blocks|contents|read|copy|compare PATH "
+                 "[TARGET]\n");
     return 2;
   }
   std::printf("%zu\n", files);

@@ -1,6 +1,8 @@
 """What is measured: jobs, and the programs that compete in each."""
 
+import filecmp
 import json
+import shutil
 import subprocess
 from collections.abc import Callable
 from dataclasses import dataclass, field
@@ -33,6 +35,7 @@ class Job:
     contestants: list[Contestant]
     writes: bool = False  # flush what earlier runs wrote before each run
     notes: list[str] = field(default_factory=list)
+    memory: bool = False  # tell the peak of memory as well
 
 
 def counts(expected: int) -> Callable[[bytes, int], None]:
@@ -151,6 +154,7 @@ class Jobs:
             "empty": self.empty_folders,
             "delete": self.deletion,
             "base": self.file_base,
+            "xor": self.scrambling,
         }
 
     def small(self) -> tuple[Path, int]:
@@ -247,9 +251,9 @@ class Jobs:
               for name, command in peers.items()),
         ], notes=["`cp -au` and `rsync -a` go by dates and read no file."])
 
-    def form_job(self, line: str, script: str, drives: dict[str, Path]) -> list[str]:
+    def form_job(self, line: str, script: str, drives: dict[str, Path], name: str = "") -> list[str]:
         """A job of the product behind a script; each has a script and a registry of its own."""
-        base = self.scratch / f"job {line[1:4]}"
+        base = self.scratch / f"job {line[1:4]}{name}"
         base.with_suffix(".txt").write_text(script)
         mapped = [part for letter, folder in drives.items()
                   for part in ("--drive", f"{letter}={folder}")]
@@ -352,3 +356,36 @@ class Jobs:
             Contestant("cp -r", lambda n: ["cp", "-r", str(tree), str(fresh("cp")(n))],
                        holds(fresh("cp"), files)),
         ], writes=True, notes=["Beside a file base `cp` copies the same files in their own folders."])]
+
+    def scrambling(self) -> list[Job]:
+        place = self.scratch / "xor"
+        place.mkdir()
+        source = sample_tree.make_texts(self.scratch / "text", self.scale)["binary"]
+        plain = place / "plain"
+        # The text runs of the sample stay in; only the length is that of the job.
+        size = max(1, round(500 * self.scale)) * sample_tree.MIB
+        with open(plain, "wb") as file:
+            while file.tell() < size:
+                file.write(source.read_bytes()[:size - file.tell()])
+        # Scrambled in place, run by run: what came out is known by every second run.
+        scrambled = place / "scrambled"
+        shutil.copy(plain, scrambled)
+        script = place / "key.txt"
+        script.write_text('answer input "a key of some length"\n')
+        command = [str(self.headless), "--script", str(script), "--registry", str(place / "reg"),
+                   "--drive", f"T={place}", "/XOR T:\\scrambled"]
+
+        def same_every_second_time(output: bytes, run: int) -> None:
+            if b'"Complete"' not in output:
+                raise WrongResult(f"no end in {output[-400:]!r}")
+            if filecmp.cmp(plain, scrambled, shallow=False) != (run % 2 == 1):
+                raise WrongResult(f"the wrong bytes in {scrambled}")
+
+        openssl = ["openssl", "enc", "-aes-128-ctr", "-K", "00" * 16, "-iv", "00" * 16,
+                   "-in", str(plain), "-out", str(place / "openssl")]
+        return [Job(f"scrambling, {size // sample_tree.MIB} MiB in one file", [
+            Contestant(ORVIK, lambda n: command, same_every_second_time),
+            Contestant(FLOOR, lambda n: self.floor("read", plain), counts(1)),
+            Contestant("openssl enc -aes-128-ctr", lambda n: openssl),
+            Contestant("cp", lambda n: ["cp", str(plain), str(place / "copy")]),
+        ], writes=True, notes=["Beside scrambling the bare system calls only read the file."])]

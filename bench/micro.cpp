@@ -10,6 +10,7 @@
 #include "fileengine/checksums.h"
 #include "fileengine/pattern.h"
 #include "fileengine/text_crc.h"
+#include "monitors/text_finder.h"
 
 namespace orvik {
 namespace {
@@ -45,16 +46,33 @@ std::string Bytes(Content content, std::size_t size) {
 void FileContentCRC(benchmark::State& state) {
   const std::string bytes =
       Bytes(static_cast<Content>(state.range(0)), static_cast<std::size_t>(state.range(1)));
+  const auto kernel = static_cast<std::size_t>(state.range(2));
+  if (kernel >= mdlSupport::CrcKernels().size()) return state.SkipWithError("not on this machine");
+  state.SetLabel(mdlSupport::CrcKernels()[kernel].name);
   for (auto _ : state) {
-    TextCRC crc(CodePage::Numbered(1251));
+    TextCRC crc(CodePage::Numbered(1251), mdlSupport::CrcKernels()[kernel]);
     crc.Add(bytes);
     benchmark::DoNotOptimize(crc.Result());
   }
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * bytes.size()));
 }
 BENCHMARK(FileContentCRC)
-    ->ArgNames({"content", "bytes"})
-    ->ArgsProduct({{kAscii, kRussian, kBinary}, {512, 1 << 16, kLarge}});
+    ->ArgNames({"content", "bytes", "kernel"})
+    ->ArgsProduct({{kAscii, kRussian, kBinary}, {512, 1 << 16, kLarge}, {0, 1, 2, 3}});
+
+void SearchText(benchmark::State& state) {
+  const std::string bytes =
+      Bytes(static_cast<Content>(state.range(0)), static_cast<std::size_t>(state.range(1)));
+  const auto kernel = static_cast<std::size_t>(state.range(2));
+  if (kernel >= ScanKernels().size()) return state.SkipWithError("not on this machine");
+  state.SetLabel(ScanKernels()[kernel].name);
+  const TextFinder finder(u"договор поставки", CodePage::Numbered(1251), ScanKernels()[kernel]);
+  for (auto _ : state) benchmark::DoNotOptimize(finder.FoundIn(bytes));
+  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * bytes.size()));
+}
+BENCHMARK(SearchText)
+    ->ArgNames({"content", "bytes", "kernel"})
+    ->ArgsProduct({{kAscii, kRussian, kBinary}, {1 << 12, 1 << 20}, {0, 1}});
 
 void ChecksumOfText(benchmark::State& state) {
   mdlSupport::InitCRCTable();

@@ -100,6 +100,27 @@ def make_hollow(root: Path, scale: float = 1.0) -> tuple[int, int, int]:
     return tops * (1 + 30 * 33) + 1, empty, files
 
 
+def make_prose(root: Path, files: int, sizes: tuple[int, int], planted: list[str]) -> None:
+    """Texts, English and Russian (code page 1251) by turns, fifty to a folder; every fiftieth has
+    one of the planted words somewhere, in letters of any case."""
+    rng = random.Random(18340101)
+    pools = [" ".join(rng.choices(vocabulary + ["and", "или", "не", "the"], k=400_000)).encode("cp1251")
+             for vocabulary in (LATIN, RUSSIAN)]
+    for number in range(files):
+        folder = root / f"{words(number // 50)[number // 50 % 10]} {number // 50:04}"
+        if number % 50 == 0:
+            folder.mkdir(parents=True)
+        pool = pools[number % 2]
+        size = rng.randint(*sizes)
+        start = rng.randrange(len(pool) - size)
+        text = bytearray(pool[start:start + size])
+        if number % 50 < len(planted):
+            word = "".join(rng.choice((c.upper(), c)) for c in planted[number % 50]).encode("cp1251")
+            at = rng.randrange(max(1, size - len(word) + 1))
+            text[at:at + len(word)] = word
+        (folder / f"{words(number)[number % 10]} {number % 50:02}.txt").write_bytes(text)
+
+
 def make_zeros(root: Path, files: int) -> None:
     """Empty files, a hundred to a folder."""
     for number in range(files):

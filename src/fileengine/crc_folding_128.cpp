@@ -50,8 +50,7 @@ ORVIK_TARGET inline Words Expand(const CrcPage& page, const unsigned char* at) {
     const CrcPage::Mend& mend = page.mends[m];
     const __m128i row = _mm_set1_epi8(static_cast<char>(mend.row));
     for (std::size_t i = 0; i < kLoads; ++i) {
-      // 0x70 and more for the bytes of this row; 0x80 and more, which finds nothing, for all
-      // others.
+      // 0x70 and more for bytes of this row; 0x80 and more, which finds nothing, for others.
       const __m128i columns = _mm_adds_epu8(_mm_xor_si128(bytes[i], row), _mm_set1_epi8(0x70));
       low[i] = _mm_xor_si128(low[i], _mm_shuffle_epi8(Load(mend.low.data()), columns));
       high[i] = _mm_xor_si128(high[i], _mm_shuffle_epi8(Load(mend.high.data()), columns));

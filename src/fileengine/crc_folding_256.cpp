@@ -44,8 +44,7 @@ ORVIK_TARGET inline Registers Expand(const CrcPage& page, const unsigned char* a
     const __m256i mend_low = Twice(mend.low.data());
     const __m256i mend_high = Twice(mend.high.data());
     for (std::size_t i = 0; i < kLoads; ++i) {
-      // 0x70 and more for the bytes of this row; 0x80 and more, which finds nothing, for all
-      // others.
+      // 0x70 and more for bytes of this row; 0x80 and more, which finds nothing, for others.
       const __m256i columns =
           _mm256_adds_epu8(_mm256_xor_si256(bytes[i], row), _mm256_set1_epi8(0x70));
       low[i] = _mm256_xor_si256(low[i], _mm256_shuffle_epi8(mend_low, columns));

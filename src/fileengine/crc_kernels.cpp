@@ -75,7 +75,8 @@ void CrcPage::FillRow(std::size_t row) {
   std::map<std::uint16_t, int> votes;
   std::uint16_t best = way(0);
   for (std::size_t i = 0; i < 16; ++i) {
-    // No text is without the letter that the Russian alphabet has apart from the others.
+    // This letter of the Russian alphabet alone stands apart from the others, and texts are full of
+    // it.
     const bool frequent = ToUpper(characters[row + i]) == u'Ё';
     votes[way(i)] += frequent ? 16 : 1;
     if (votes[way(i)] > votes[best]) best = way(i);

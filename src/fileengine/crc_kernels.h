@@ -17,16 +17,16 @@ struct CrcPage {
   std::array<char16_t, 256> characters;
 
   // The two bytes of the characters of 0x80 to 0xFF.
-  alignas(64) std::array<std::uint8_t, 128> low, high;
+  std::array<std::uint8_t, 128> low, high;
 
   // The same for processors that look up 16 bytes at a time. In a row of 16 bytes most characters
   // follow each other: their low byte is the byte plus low_of_row, their high byte is high_of_row.
   // The odd ones are mended by exclusive-or. A byte is odd where the bits of its row and of its
   // column meet.
   using Sixteen = std::array<std::uint8_t, 16>;
-  alignas(16) Sixteen low_of_row = {}, high_of_row = {}, odd_in_row = {}, odd_in_column = {};
+  Sixteen low_of_row = {}, high_of_row = {}, odd_in_row = {}, odd_in_column = {};
   struct Mend {
-    alignas(16) Sixteen low, high;
+    Sixteen low, high;
     std::uint8_t row;  // its first byte
   };
   std::array<Mend, 8> mends = {};

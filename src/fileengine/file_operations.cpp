@@ -12,11 +12,11 @@ namespace orvik::mdlSupport {
 
 namespace {
 
-// A text of blanks; throws Failure when it can't be had.
-Text Blanks(std::int32_t length) {
+// Room for a text of a length; throws Failure when it can't be had.
+void Reserve(Text& text, std::int32_t length) {
   if (length < 0) throw Failure{};
   try {
-    return Text(static_cast<std::size_t>(length), u' ');
+    text.reserve(static_cast<std::size_t>(length));
   } catch (const std::bad_alloc&) {
     throw Failure{};
   } catch (const std::length_error&) {
@@ -24,33 +24,42 @@ Text Blanks(std::int32_t length) {
   }
 }
 
-// How much of a file goes through the code page at a time.
+// How much of a file goes through the code page at a time. What lies in between stays in the cache.
 constexpr std::size_t kChunk = 1 << 16;
 
-// Decodes a file into a buffer of its length; the rest stays as it is where the file ends early.
-void ReadInto(host::File& file, Text& buffer) {
+// Decodes up to `length` bytes of a file behind a text that has room for them. Fewer come when the
+// file ends early.
+void ReadBehind(host::File& file, std::size_t length, Text& text) {
   const auto& characters = host::TheSystem().AnsiPage().characters();
-  std::string bytes(std::min(kChunk, buffer.size()), '\0');
-  for (std::size_t at = 0; at < buffer.size();) {
-    const std::size_t wanted = std::min(bytes.size(), buffer.size() - at);
+  std::string bytes(std::min(kChunk, length), '\0');
+  while (text.size() < length) {
+    const std::size_t at = text.size();
+    const std::size_t wanted = std::min(bytes.size(), length - at);
     const auto count = file.ReadAt(static_cast<std::int64_t>(at), std::span(bytes.data(), wanted));
     if (!count || *count == 0) return;
+    text.resize(at + *count);
+    char16_t* const data = text.data() + at;
     for (std::size_t i = 0; i < *count; ++i) {
-      buffer[at + i] = characters[static_cast<unsigned char>(bytes[i])];
+      data[i] = characters[static_cast<unsigned char>(bytes[i])];
     }
-    at += *count;
   }
 }
 
 }  // namespace
 
 Text ReadWholeFile(const Text& path) {
-  Text buffer;
-  Attempt([&] { buffer = Blanks(FileLength(path)); });
+  Text content;
+  std::size_t length = 0;
+  Attempt([&] {
+    const std::int32_t bytes = FileLength(path);
+    Reserve(content, bytes);
+    length = static_cast<std::size_t>(bytes);
+  });
   if (const auto file = host::Files().Open(path, host::OpenMode::kReadWriteCreate)) {
-    ReadInto(*file, buffer);
+    ReadBehind(*file, length, content);
   }
-  return buffer;
+  content.resize(length, u' ');
+  return content;
 }
 
 void AppendToFile(TextView content, const Text& path, Flag append) {

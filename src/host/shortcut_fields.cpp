@@ -18,7 +18,7 @@ IconLocation ParseIconLocation(TextView location) {
   return {Text(location.substr(0, comma)), index};
 }
 
-Text IconLocationText(Text path, int index) {
+Text IconLocationText(const Text& path, int index) {
   return index == 0 ? path : path + u',' + Decimal(index);
 }
 

@@ -18,7 +18,7 @@ struct IconLocation {
 // "path,index"; a comma that no number follows belongs to the path.
 IconLocation ParseIconLocation(TextView location);
 // The other way; the first icon needs no index.
-Text IconLocationText(Text path, int index);
+Text IconLocationText(const Text& path, int index);
 
 // A target without the quotes around it and without a closing backslash, which only the root of a
 // drive keeps.

@@ -3,8 +3,6 @@
 #include <dirent.h>
 #include <fcntl.h>
 
-#include <algorithm>
-
 #include "host/name_mask.h"
 #include "host/posix/attributes.h"
 
@@ -59,28 +57,6 @@ class ItemDetails {
 
 }  // namespace
 
-bool Listing::Next(FindRecord& record) {
-  if (next_ == items.size()) return false;
-  const Item& item = items[next_++];
-  record.attributes = item.attributes;
-  record.size_high = static_cast<std::uint32_t>(item.size >> 32);
-  record.size_low = static_cast<std::uint32_t>(item.size);
-  record.name.assign(names, item.begin, item.length);
-  return true;
-}
-
-void Listing::Sort(std::size_t first) {
-  const auto capitals_of = [this](const Item& item) {
-    return TextView(capitals).substr(item.begin, item.length);
-  };
-  const auto before = [&](const Item& a, const Item& b) {
-    if (a.sort_key != b.sort_key) return a.sort_key < b.sort_key;
-    if (const int order = capitals_of(a).compare(capitals_of(b)); order != 0) return order < 0;
-    return TextView(names).substr(a.begin, a.length) < TextView(names).substr(b.begin, b.length);
-  };
-  std::sort(items.begin() + static_cast<std::ptrdiff_t>(first), items.end(), before);
-}
-
 std::unique_ptr<Search> Searcher::FindFirst(const Text& path_and_mask, Details details,
                                             FindRecord& record) {
   if (path_and_mask.size() > kLongestPath) return nullptr;
@@ -88,10 +64,12 @@ std::unique_ptr<Search> Searcher::FindFirst(const Text& path_and_mask, Details d
   const std::size_t begin = MaskBegin(path);
   const TextView mask = path.substr(begin);
   if (mask.empty()) return nullptr;
-  std::unique_ptr<Listing> listing =
+  std::shared_ptr<const Listing> listing =
       HasWildcards(mask) ? ListMatching(path.substr(0, begin), mask, details) : ListOne(path, mask);
-  if (listing == nullptr || !listing->Next(record)) return nullptr;
-  return listing;
+  if (listing == nullptr) return nullptr;
+  auto search = std::make_unique<ListingSearch>(std::move(listing));
+  if (!search->Next(record)) return nullptr;
+  return search;
 }
 
 UniqueFd Searcher::OpenFolder(NativePath& path) {
@@ -114,16 +92,24 @@ void Searcher::AddDots(TextView mask, Listing& listing) const {
   }
 }
 
-std::unique_ptr<Listing> Searcher::ListMatching(TextView folder, TextView mask, Details details) {
+std::shared_ptr<const Listing> Searcher::ListMatching(TextView folder, TextView mask,
+                                                      Details details) {
   std::optional<NativePath> path = finder_.Translate(folder.empty() ? TextView(u".") : folder);
   if (!path) return nullptr;
+  const bool everything = mask == u"*" || mask == u"*.*";
+  const bool names_alone = everything && details == Details::kFolderBit;
+  if (names_alone) {
+    if (auto known = last_.For(*path, LastListing::Moment())) return known;
+  }
   const UniqueFd fd = OpenFolder(*path);
-  if (!fd) return nullptr;
-  auto listing = std::make_unique<Listing>();
+  struct stat before = {};
+  if (!fd || (names_alone && ::fstat(fd.get(), &before) != 0)) return nullptr;
+  const std::int64_t moment = LastListing::Moment();
+  auto listing = std::make_shared<Listing>();
   if (!path->IsRoot()) AddDots(mask, *listing);
   const std::size_t dots = listing->items.size();
-  const bool everything = mask == u"*" || mask == u"*.*";
   ItemDetails filler(fd, path->text, details);
+  bool told_by_names = true;
   const auto add = [&](std::string_view name, unsigned char type) {
     const std::size_t begin = listing->names.size();
     codec_.AppendListed(name, listing->names);
@@ -138,18 +124,21 @@ std::unique_ptr<Listing> Searcher::ListMatching(TextView folder, TextView mask, 
     for (const char16_t c : listed) listing->capitals.push_back(codec_.Upper(c));
     item.sort_key = SortKey(TextView(listing->capitals).substr(begin));
     filler.Fill(name, type, item);
+    // What a link leads to may change while the folder stays as it is.
+    told_by_names &= type != DT_LNK && type != DT_UNKNOWN;
   };
   // What could be read of a folder counts, as when an entry vanishes while Windows reads one.
-  reader_.Read(fd, add);
+  const bool whole = reader_.Read(fd, add);
   listing->Sort(dots);
+  if (whole && names_alone && told_by_names) last_.Keep(*path, before, moment, listing);
   return listing;
 }
 
 // A path without wildcards finds the one entry that it names.
-std::unique_ptr<Listing> Searcher::ListOne(TextView path, TextView mask) {
+std::shared_ptr<const Listing> Searcher::ListOne(TextView path, TextView mask) {
   const std::optional<Entry> entry = finder_.Look(path);
   if (!entry || entry->path.IsRoot()) return nullptr;
-  auto listing = std::make_unique<Listing>();
+  auto listing = std::make_shared<Listing>();
   Listing::Item item;
   codec_.AppendListed(entry->path.Leaf(), listing->names);
   if (!FitsMask(listing->names, mask)) return nullptr;  // "." and ".." aren't names

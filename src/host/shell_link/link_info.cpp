@@ -38,7 +38,7 @@ std::uint32_t DriveType(const ByteView& info) {
   return place == 0 ? 0 : info.From(place).U32(4).value_or(0);
 }
 
-std::string Closed(std::string bytes) { return bytes + '\0'; }
+std::string Closed(const std::string& bytes) { return bytes + '\0'; }
 
 std::string ClosedWide(TextView text) {
   std::string bytes;

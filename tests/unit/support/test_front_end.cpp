@@ -58,7 +58,7 @@ std::string Describe(const Control& control, Change change) {
       return dynamic_cast<const forms::Timer&>(control).active() ? "active" : "off";
     case Property::kAdd:
     case Property::kItem: {
-      const std::string what = change.property == Property::kAdd ? "add " : "item ";
+      std::string what = change.property == Property::kAdd ? "add " : "item ";
       if (const auto* list = dynamic_cast<const forms::ListBox*>(&control)) {
         return what + ToUtf8(list->Item(change.position));
       }

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "host/win32/windows_api.h"
+#include "forms/win32/windows_api.h"
 #include "unit/support/program_test.h"
 
 namespace orvik::WinDosConv2 {
