@@ -58,7 +58,19 @@ void Dialogs::Press(HWND dialog, int button) {
   messenger_.Send(GetDlgItem(dialog, button), BM_CLICK);
 }
 
+void Dialogs::AnswerRecycling(HWND box) {
+  const bool goes = answers_.ToRecycle();
+  auto& json = record_.Begin("recycle");
+  json.Name("answer").String(NameOf(goes ? forms::Answer::kYes : forms::Answer::kNo));
+  record_.End();
+  Press(box, goes ? IDYES : IDNO);
+}
+
 bool Dialogs::AnswerMessage(HWND box) {
+  if (AsksBeforeRecycling(box)) {
+    AnswerRecycling(box);
+    return true;
+  }
   // What a file dialog asks by itself, such as whether a file may be replaced, is between the
   // system and the user.
   if (const HWND owner = GetWindow(box, GW_OWNER); owner != nullptr && IsFileDialog(owner)) {

@@ -25,6 +25,7 @@ class Dialogs {
   // These are false when the dialog isn't fully drawn yet.
   bool Answer(HWND dialog);
   bool AnswerMessage(HWND box);
+  void AnswerRecycling(HWND box);
   bool AnswerInput(HWND dialog);
   bool AnswerFolder(HWND dialog);
   bool AnswerFile(HWND dialog);

@@ -47,6 +47,11 @@ std::optional<MessageBoxFacts> ReadMessageBox(HWND box) {
   return facts;
 }
 
+bool AsksBeforeRecycling(HWND box) {
+  const auto has = [&](int id) { return GetDlgItem(box, id) != nullptr; };
+  return has(IDYES) && has(IDNO) && has(IDCANCEL);
+}
+
 int ButtonFor(forms::Answer answer) {
   switch (answer) {
     case forms::Answer::kOk:

@@ -19,6 +19,10 @@ struct MessageBoxFacts {
 // Nothing while the box isn't fully drawn.
 std::optional<MessageBoxFacts> ReadMessageBox(HWND box);
 
+// True for the shell's own question before something goes to the Recycle Bin: it has a third button
+// for all files, which no box of the program has. What it asks about is drawn, not written.
+bool AsksBeforeRecycling(HWND box);
+
 // The identifier of the button that gives an answer.
 int ButtonFor(forms::Answer answer);
 

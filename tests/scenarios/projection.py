@@ -8,6 +8,7 @@ program becomes comparable with the robot's by leaving out what has no window, a
 - parts of a pixel of a column's width;
 - controls of the kinds Menu, Timer and CommonDialog in a dump;
 - what a form has drawn, and how round the corners of its region are;
+- which path goes to the Recycle Bin: the shell draws it;
 - programs started and processes ended, the events "start" and "kill";
 - why the process ended by itself: "shutdown", "closed" and "returned" are all "ended";
 - forms that go with their process: an "unload" with nothing behind it but such an end.
@@ -59,6 +60,8 @@ def _seen_dump(event):
 def _seen(event):
     if event["event"] == "dump":
         return _seen_dump(event)
+    if event["event"] == "recycle":
+        return {name: value for name, value in event.items() if name != "path"}
     if event["event"] == "end" and event["reason"] in OWN_ENDS:
         return {**event, "reason": "ended"}
     return event

@@ -60,6 +60,11 @@ class FromOutside(unittest.TestCase):
                         {"text": "c", "width": 4500}],
             "rows": [seen_row("1", ["x", "y"]), seen_row("2", ["", "y"]), seen_row("3", [])]})
 
+    def test_of_what_goes_to_the_bin_only_the_answer(self):
+        recycle = {"event": "recycle", "path": "T:\\a", "answer": "no"}
+        self.assertEqual(from_outside([recycle, end("script")]),
+                         [{"event": "recycle", "answer": "no"}, end("script")])
+
     def test_other_processes_are_not_seen(self):
         start = {"event": "start", "command": "notepad", "window": 1}
         kill = {"event": "kill", "process": "punto.exe"}
