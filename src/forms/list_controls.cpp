@@ -85,7 +85,11 @@ void ListBox::Add(TextView item) {
 void ListBox::Remove(int position) {
   At(position);
   entries_.erase(entries_.begin() + position);
-  if (index_ >= count()) index_ = count() - 1;
+  if (index_ == position) {
+    index_ = -1;
+  } else if (index_ > position) {
+    --index_;
+  }
   Changed(Property::kRemove, position);
 }
 
@@ -135,5 +139,9 @@ void ListBox::UserSelect(const std::vector<int>& positions, Follow follow) {
 }
 
 void ListBox::UserCheck(int position, bool checked) { SetChecked(position, checked); }
+
+void ListBox::UserSpace() {
+  if (has_boxes() && index_ >= 0) UserCheck(index_, !Checked(index_));
+}
 
 }  // namespace orvik::forms

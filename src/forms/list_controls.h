@@ -62,6 +62,7 @@ class ListBox : public Control {
   const Text& Item(int position) const;
   void SetItem(int position, TextView text);
   void Add(TextView item);
+  // The current entry stays the current one; when it is the one that goes, there is none.
   void Remove(int position);
   void Clear();
   bool Checked(int position) const;
@@ -79,6 +80,8 @@ class ListBox : public Control {
   enum class Follow { kNothing, kClick };
   void UserSelect(const std::vector<int>& positions, Follow follow = Follow::kClick);
   void UserCheck(int position, bool checked);
+  // The space bar turns the box of the current entry over, where there are boxes.
+  void UserSpace();
 
  private:
   struct Entry {

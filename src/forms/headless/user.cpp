@@ -246,6 +246,8 @@ void ActByItself(Control& control, Key key) {
   constexpr int kSpace = 32;
   if (control.kind() == Kind::kTreeView && key.code == kSpace) {
     static_cast<TreeView&>(control).UserSpace();
+  } else if (control.kind() == Kind::kListBox && key.code == kSpace) {
+    static_cast<ListBox&>(control).UserSpace();
   }
 }
 

@@ -117,6 +117,31 @@ TEST_F(Controls, ListEntriesSelectionAndBoxes) {
   EXPECT_THROW(list.SetItem(0, u"x"), Failure);
 }
 
+TEST_F(Controls, TheSpaceBarTurnsTheCurrentBoxOver) {
+  ListBox& list = form().lbIn;
+  list.Add(u"a");
+  list.UserSpace();
+  EXPECT_FALSE(list.Checked(0));
+  list.UserClick(0);
+  list.UserSpace();
+  EXPECT_TRUE(list.Checked(0));
+  list.UserSpace();
+  EXPECT_FALSE(list.Checked(0));
+}
+
+TEST_F(Controls, ARemovedEntryIsNoLongerTheCurrentOne) {
+  ListBox& list = form().lbIn;
+  for (const char16_t* item : {u"a", u"b", u"c"}) list.Add(item);
+  list.UserClick(1);
+  list.Remove(0);
+  EXPECT_EQ(list.index(), 0);
+  EXPECT_TRUE(list.Selected(0));
+  list.Remove(1);
+  EXPECT_EQ(list.index(), 0);
+  list.Remove(0);
+  EXPECT_EQ(list.index(), -1);
+}
+
 TEST_F(Controls, ATimerThatIsOnIsNotRestarted) {
   form().clOne.SetActive(true);
   front.changes.clear();
