@@ -106,8 +106,8 @@ bool MoveInto(const std::string& path, const std::string& trash, const std::stri
   const std::string note = Note(noted_path);
   // Thousands of things may have one name: what this process found taken isn't tried again.
   static std::unordered_map<std::string, int> numbers;
-  for (int& number = numbers.try_emplace(trash + '/' + name, 1).first->second;
-       number < kMostNumbered; ++number) {
+  int& number = numbers.try_emplace(trash + '/' + name, 1).first->second;
+  for (; number < kMostNumbered; ++number) {
     const Outcome outcome = MoveUnder(path, trash, NameInTrash(name, number), note);
     if (outcome != Outcome::kTaken) return outcome == Outcome::kMoved;
   }
