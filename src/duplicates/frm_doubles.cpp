@@ -12,7 +12,8 @@
 namespace orvik {
 
 frmDoubles::frmDoubles() : Form("frmDoubles", u"Дубликаты", 9570, 7005) {
-  MakeSizable();
+  // The buttons take all of the width.
+  MakeSizable(width());
   cbPattern.PutInto(rmPattern);
   WireEvents();
 }

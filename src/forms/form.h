@@ -60,9 +60,14 @@ class Form {
   // before the form is loaded.
   Form* owner() const { return owner_; }
   void SetOwner(Form& owner) { owner_ = &owner; }
-  // A form that lays itself out anew at every size: the user may drag it in both directions.
+  // A form that lays itself out anew at every size: the user may drag it in both directions, down
+  // to two thirds of its first size and no further than the smallest width.
   bool sizable() const { return sizable_; }
-  void MakeSizable() { sizable_ = true; }
+  int smallest_width() const { return smallest_width_; }
+  void MakeSizable(int smallest_width = 0) {
+    sizable_ = true;
+    smallest_width_ = smallest_width;
+  }
   // A form without border and title bar, black, which can be translucent and cut to a region. Its
   // size is that of its surface.
   bool skinned() const { return skinned_; }
@@ -130,6 +135,7 @@ class Form {
   bool visible_ = false;
   bool topmost_ = false;
   bool sizable_ = false;
+  int smallest_width_ = 0;
   bool skinned_ = false;
   int transparency_ = 255;
   std::optional<RoundRegion> region_;

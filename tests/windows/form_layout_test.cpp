@@ -106,6 +106,17 @@ TEST_F(FormLayout, IsNeverNarrowerThanDesigned) {
   EXPECT_EQ(limits.ptMaxTrackSize.y, outer.bottom - outer.top);
 }
 
+TEST_F(FormLayout, ASizableFormIsNeverNarrowerThanItSays) {
+  FixedForm fixed;
+  fixed.MakeSizable(fixed.width() - 600);
+  fixed.Show();
+  RECT outer;
+  GetWindowRect(WindowOf(fixed), &outer);
+  MINMAXINFO limits{};
+  SendMessageW(WindowOf(fixed), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+  EXPECT_EQ(limits.ptMinTrackSize.x, outer.right - outer.left - Pixels(600));
+}
+
 TEST_F(FormLayout, FormWithoutAnchorsHasNoSizingBorder) {
   FixedForm fixed;
   fixed.Show();

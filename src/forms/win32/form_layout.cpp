@@ -115,8 +115,9 @@ void FormWindow::LimitSize(MINMAXINFO& limits) const {
   if (!widens_) return;
   const SIZE size = Size();
   if (form_.sizable()) {
+    const int smallest = std::max(Smallest(design_width_), form_.smallest_width());
     limits.ptMinTrackSize = {
-        size.cx + metrics_->Pixels(Smallest(design_width_)) - metrics_->Pixels(form_.width()),
+        size.cx + metrics_->Pixels(smallest) - metrics_->Pixels(form_.width()),
         size.cy + metrics_->Pixels(Smallest(design_height_)) - metrics_->Pixels(form_.height())};
     return;
   }

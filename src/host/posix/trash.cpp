@@ -6,9 +6,11 @@
 
 #include <array>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <ctime>
 #include <optional>
+#include <string_view>
 #include <unordered_map>
 
 #include "host/posix/change_names.h"
@@ -20,6 +22,7 @@ namespace {
 
 constexpr mode_t kPrivate = 0700;
 constexpr int kMostNumbered = 100'000;
+constexpr std::string_view kNoteExtension = ".trashinfo";
 
 std::optional<struct stat> StatusOf(const std::string& path) {
   struct stat status;
@@ -73,12 +76,25 @@ std::string Note(const std::string& path) {
   return "[Trash Info]\nPath=" + PercentEncoded(path) + "\nDeletionDate=" + date.data() + "\n";
 }
 
-// The name of a thing in the trash: a number stands before the extension of the second one.
+// Shortens a text to a number of bytes, at the end of a character.
+void Cut(std::string& text, std::size_t length) {
+  if (text.size() <= length) return;
+  while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80) --length;
+  text.resize(length);
+}
+
+// The name of a thing in the trash: a number stands before the extension of the second one. A long
+// name is cut, for its note's is longer still; the note holds all of it.
 std::string NameInTrash(const std::string& name, int number) {
-  if (number == 1) return name;
   const std::size_t dot = name.rfind('.');
   const std::size_t place = dot == std::string::npos || dot == 0 ? name.size() : dot;
-  return name.substr(0, place) + "." + std::to_string(number) + name.substr(place);
+  const std::string mark = number == 1 ? "" : "." + std::to_string(number);
+  const std::size_t room = NAME_MAX - kNoteExtension.size() - mark.size();
+  std::string stem = name.substr(0, place);
+  std::string extension = name.substr(place);
+  Cut(extension, room);
+  Cut(stem, room - extension.size());
+  return stem + mark + extension;
 }
 
 enum class Outcome { kMoved, kTaken, kRefused };
@@ -86,7 +102,7 @@ enum class Outcome { kMoved, kTaken, kRefused };
 // Writes the note, which reserves the name, and moves the thing.
 Outcome MoveUnder(const std::string& path, const std::string& trash, const std::string& name,
                   const std::string& note) {
-  const std::string info = trash + "/info/" + name + ".trashinfo";
+  const std::string info = trash + "/info/" + name + std::string(kNoteExtension);
   UniqueFd fd(::open(info.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
   if (!fd) return errno == EEXIST ? Outcome::kTaken : Outcome::kRefused;
   const bool noted = WriteNative(fd.get(), note) && fd.Close();

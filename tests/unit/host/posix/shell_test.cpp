@@ -39,6 +39,22 @@ TEST_F(PosixShellTest, ThingsOfOneNameGetNumbers) {
   EXPECT_THAT(ReadNative(Trash() + "/info/x.2.txt.trashinfo"), HasSubstr("/t/x.txt\n"));
 }
 
+// The longest name of a disk leaves no room for a number and for the extension of the note.
+TEST_F(PosixShellTest, LongNamesAreCutInTheTrashAndWholeInTheNote) {
+  std::string stem;
+  for (int i = 0; i < 125; ++i) stem += "ж";
+  for (const char* const content : {"1", "2"}) {
+    WriteNative(stem + ".docx", content);
+    EXPECT_TRUE(shell().Recycle(FromUtf8("T:\\" + stem + ".docx"), Questions::kSilent));
+  }
+  const std::string first = stem.substr(0, 240) + ".docx";
+  const std::string second = stem.substr(0, 238) + ".2.docx";
+  EXPECT_EQ(ReadNative(Trash() + "/files/" + first), "1");
+  EXPECT_EQ(ReadNative(Trash() + "/files/" + second), "2");
+  EXPECT_THAT(ReadNative(Trash() + "/info/" + second + ".trashinfo"),
+              HasSubstr("Path=" + PercentEncoded(folder_ + "/t/" + stem + ".docx") + "\n"));
+}
+
 TEST_F(PosixShellTest, AThingWithoutANoteIsntOverwritten) {
   ASSERT_EQ(std::system(("mkdir -p '" + Trash() + "/files'").c_str()), 0);
   std::ofstream(Trash() + "/files/x") << "stray";
