@@ -5,7 +5,8 @@
 namespace orvik {
 
 void KeyedCollection::Add(Text item, TextView key) {
-  if (!index_.try_emplace(Text(key), items_.size()).second) throw Failure{};
+  if (Find(key) != nullptr) throw Failure{};
+  index_.Add(key, static_cast<std::uint32_t>(items_.size()));
   items_.push_back({std::move(item), Text(key)});
 }
 
@@ -21,18 +22,9 @@ const Text& KeyedCollection::Item(TextView key) const {
 }
 
 const Text* KeyedCollection::Find(TextView key) const {
-  const auto found = index_.find(key);
-  return found == index_.end() ? nullptr : &items_[found->second].item;
-}
-
-void KeyedCollection::Remove(std::size_t position) {
-  if (position < 1 || position > items_.size()) throw Failure{};
-  const auto indexed = index_.find(items_[position - 1].key);
-  if (indexed != index_.end() && indexed->second == position - 1) index_.erase(indexed);
-  items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(position - 1));
-  for (auto& [key, place] : index_) {
-    if (place >= position) --place;
-  }
+  const auto key_of = [&](std::uint32_t i) -> TextView { return items_[i].key; };
+  const std::uint32_t found = index_.Find(key, key_of);
+  return found == KeyIndex::kNone ? nullptr : &items_[found].item;
 }
 
 }  // namespace orvik

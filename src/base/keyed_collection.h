@@ -2,15 +2,15 @@
 #pragma once
 
 #include <cstddef>
-#include <unordered_map>
 #include <vector>
 
+#include "base/key_index.h"
 #include "base/text.h"
 
 namespace orvik {
 
 // Positions count from 1. Keys are unique and blind to letter case. Look-up by key takes constant
-// time; removal moves the items behind it.
+// time.
 class KeyedCollection {
  public:
   // Adds at the end. Throws Failure, and adds nothing, when the key exists.
@@ -24,9 +24,6 @@ class KeyedCollection {
   // The item under a key, or nullptr.
   const Text* Find(TextView key) const;
 
-  // Removes the item at a position; throws Failure when there is none.
-  void Remove(std::size_t position);
-
   std::size_t Count() const { return items_.size(); }
 
  private:
@@ -35,7 +32,7 @@ class KeyedCollection {
     Text key;
   };
   std::vector<Entry> items_;
-  std::unordered_map<Text, std::size_t, HashNoCase, SameNoCase> index_;
+  KeyIndex index_;
 };
 
 }  // namespace orvik

@@ -188,10 +188,10 @@ std::vector<TextView> Split(TextView text, TextView separator) {
   return pieces;
 }
 
-std::size_t HashNoCase::operator()(TextView text) const {
+std::uint64_t HashNoCase(TextView text) {
   std::uint64_t hash = 0xCBF29CE484222325;  // FNV-1a over capitals
   for (char16_t c : text) hash = (hash ^ ToUpper(c)) * 0x100000001B3;
-  return static_cast<std::size_t>(hash);
+  return hash;
 }
 
 }  // namespace orvik

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,14 +41,7 @@ std::vector<TextView> Split(TextView text, TextView separator);
 inline bool StartsWith(TextView text, TextView piece) { return text.starts_with(piece); }
 inline bool EndsWith(TextView text, TextView piece) { return text.ends_with(piece); }
 
-// For unordered containers whose keys ignore letter case.
-struct HashNoCase {
-  using is_transparent = void;
-  std::size_t operator()(TextView text) const;
-};
-struct SameNoCase {
-  using is_transparent = void;
-  bool operator()(TextView a, TextView b) const { return EqualNoCase(a, b); }
-};
+// The same number for all texts that are equal but for letter case.
+std::uint64_t HashNoCase(TextView text);
 
 }  // namespace orvik

@@ -3,7 +3,6 @@
 
 #include <vector>
 
-#include "base/keyed_collection.h"
 #include "forms/common_dialog.h"
 #include "forms/form.h"
 #include "forms/list_view.h"
@@ -38,8 +37,8 @@ class frmCRC : public forms::Form {
   void ShowWork();
   void AddFirstFolder(const std::vector<Text>& files);
   void AddSecondFolder(const std::vector<Text>& files, const std::vector<Text>& first_files);
-  void ReadList(const Text& path, KeyedCollection& seen, Text& name);
-  void TakeLine(const std::vector<TextView>& fields, KeyedCollection& seen, Text& name);
+  void ReadList(const Text& path, Text& name);
+  void TakeLine(const std::vector<TextView>& fields, Text& name);
   void ShowLength();
   void SelectDefaultRows(const forms::Key& key);
 };

@@ -41,40 +41,40 @@ void frmCRC::ReloadFileListComparation() {
   }
   lvMain.SetColumnText(1, u"Файл из Файл-Листа");
   Attempt([&] { lvMain.SetColumnText(2, mdlSupport::ShortenPath(CommandArgs)); });
-  KeyedCollection seen;
   Text name;
   // The chosen list comes first and fills the column whose head names the other one.
-  ReadList(chosen, seen, name);
-  if (chosen != CommandArgs) ReadList(CommandArgs, seen, name);
+  ReadList(chosen, name);
+  if (chosen != CommandArgs) ReadList(CommandArgs, name);
 }
 
-void frmCRC::ReadList(const Text& path, KeyedCollection& seen, Text& name) {
+void frmCRC::ReadList(const Text& path, Text& name) {
   const Text content = mdlSupport::ReadWholeFile(path);
   const std::vector<TextView> lines = Split(content, kCrLf);
   if (lines.empty()) Refuse(u"Файл-Лист " + path + u" пуст");
   for (std::size_t i = 0; i < lines.size(); ++i) {
-    TakeLine(Split(lines[i], u";"), seen, name);
+    TakeLine(Split(lines[i], u";"), name);
     if (i % 50 != 0) lvMain.Repaint();
   }
 }
 
 // An empty line has no fields: the name stays that of the line before, whose row is looked at once
-// more, and a row with one checksum passes for equal. So the last file of a list turns green.
-void frmCRC::TakeLine(const std::vector<TextView>& fields, KeyedCollection& seen, Text& name) {
+// more, and a row with one checksum passes for equal. So the last file of a list turns green. A row
+// without a path doesn't count as one that is there.
+void frmCRC::TakeLine(const std::vector<TextView>& fields, Text& name) {
   Attempt([&] { name = mdlSupport::GetFileName(Field(fields, 0)); });
   const Text key = u"k" + name;
-  const Text* former = seen.Find(key);
-  if (former != nullptr && !former->empty()) {
-    const int row = lvMain.Find(key);
+  int row = lvMain.Find(key);
+  if (row != 0 && !lvMain.At(row).text.empty()) {
     Attempt([&] { lvMain.AddSub(row, Field(fields, 1), u"d" + name); });
     if (Passes([&] { return lvMain.Sub(row, 1) == lvMain.Sub(row, 2); })) {
       Attempt([&] { lvMain.SetColor(row, kGreen); });
     }
     return;
   }
-  Attempt([&] { seen.Add(Text(Field(fields, 0)), key); });
-  Attempt([&] { lvMain.Add(Field(fields, 0), key); });
-  const int row = lvMain.Find(key);
+  Attempt([&] {
+    lvMain.Add(Field(fields, 0), key);
+    row = lvMain.count();
+  });
   Attempt([&] { lvMain.AddSub(row, Field(fields, 1), u"s" + name); });
   Attempt([&] { lvMain.SetColor(row, kRed); });
 }

@@ -9,8 +9,9 @@ namespace orvik::forms {
 
 namespace {
 
+// Neither list is taken apart with the process: that would cost as long as a job of many rows.
 std::vector<Form*>& Loaded() {
-  static std::vector<Form*> forms;
+  static auto& forms = *new std::vector<Form*>;
   return forms;
 }
 
@@ -19,7 +20,7 @@ std::vector<Form*>& Loaded() {
 const std::vector<Form*>& LoadedForms() { return Loaded(); }
 
 std::vector<std::unique_ptr<Form>>& FormInstances() {
-  static std::vector<std::unique_ptr<Form>> instances;
+  static auto& instances = *new std::vector<std::unique_ptr<Form>>;
   return instances;
 }
 

@@ -37,12 +37,18 @@ ListView::Row& ListView::Existing(int position) { return ElementAt(rows_, positi
 const ListView::Row& ListView::At(int position) const { return ElementAt(rows_, position); }
 
 int ListView::Find(TextView key) const {
-  const auto found = keys_.find(key);
-  return found == keys_.end() ? 0 : found->second;
+  const auto key_of = [this](std::uint32_t position) -> TextView {
+    return At(static_cast<int>(position)).key;
+  };
+  const std::uint32_t found = keys_.Find(key, key_of);
+  return found == KeyIndex::kNone ? 0 : static_cast<int>(found);
 }
 
 void ListView::Add(TextView text, TextView key) {
-  if (!key.empty() && !keys_.try_emplace(Text(key), count() + 1).second) throw Failure{};
+  if (!key.empty()) {
+    if (Find(key) != 0) throw Failure{};
+    keys_.Add(key, static_cast<std::uint32_t>(count() + 1));
+  }
   rows_.push_back({.text = Text(text), .key = Text(key), .sub = {}});
   Changed(Property::kAdd, count());
 }
@@ -51,6 +57,7 @@ void ListView::AddSub(int position, TextView text, TextView key) {
   Row& row = Existing(position);
   const auto same = [&](const SubItem& item) { return EqualNoCase(item.key, key); };
   if (!key.empty() && std::any_of(row.sub.begin(), row.sub.end(), same)) throw Failure{};
+  if (row.sub.empty() && columns_.size() > 1) row.sub.reserve(columns_.size() - 1);
   row.sub.push_back({Text(text), Text(key)});
   Changed(Property::kSub, position);
 }
@@ -76,7 +83,7 @@ void ListView::SetSelected(int position, bool selected) {
 void ListView::Clear() {
   if (rows_.empty()) return;
   rows_.clear();
-  keys_.clear();
+  keys_.Clear();
   current_ = 0;
   Changed(Property::kClear);
 }

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <cstdint>
-#include <unordered_map>
 #include <vector>
 
+#include "base/key_index.h"
 #include "forms/control.h"
 
 namespace orvik::forms {
@@ -72,7 +72,7 @@ class ListView : public Control {
 
   std::vector<Column> columns_;
   std::vector<Row> rows_;
-  std::unordered_map<Text, int, HashNoCase, SameNoCase> keys_;
+  KeyIndex keys_;  // of positions
   int current_ = 0;
 };
 

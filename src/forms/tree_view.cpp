@@ -16,8 +16,9 @@ const TreeView::Node& TreeView::At(int position) const {
 }
 
 int TreeView::Find(TextView key) const {
-  const auto found = ids_.find(key);
-  return found == ids_.end() ? 0 : PositionOf(found->second);
+  const auto key_of = [this](std::uint32_t id) -> TextView { return At(PositionOf(id)).key; };
+  const std::uint32_t found = keys_.Find(key, key_of);
+  return found == KeyIndex::kNone ? 0 : PositionOf(found);
 }
 
 int TreeView::PositionOf(std::uint32_t id) const {
@@ -30,7 +31,10 @@ int TreeView::PositionOf(std::uint32_t id) const {
 
 int TreeView::Add(TextView text, TextView key, int parent) {
   if (parent != 0) Existing(parent);
-  if (!key.empty() && !ids_.try_emplace(Text(key), last_id_ + 1).second) throw Failure{};
+  if (!key.empty()) {
+    if (Find(key) != 0) throw Failure{};
+    keys_.Add(key, last_id_ + 1);
+  }
   nodes_.push_back({.key = Text(key), .text = Text(text), .parent = parent, .id = ++last_id_});
   Changed(Property::kAdd, count());
   return count();
@@ -72,7 +76,8 @@ void TreeView::Remove(int position) {
 }
 
 void TreeView::RemoveOne(int position) {
-  ids_.erase(Existing(position).key);
+  const Node& node = Existing(position);
+  if (!node.key.empty()) keys_.Erase(node.key, node.id);
   nodes_.erase(nodes_.begin() + position - 1);
   for (int later = position; later <= count(); ++later) {
     int& parent = Existing(later).parent;
@@ -89,7 +94,7 @@ void TreeView::RemoveOne(int position) {
 void TreeView::Clear() {
   if (nodes_.empty()) return;
   nodes_.clear();
-  ids_.clear();
+  keys_.Clear();
   selected_ = 0;
   Changed(Property::kClear);
 }

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <cstdint>
-#include <unordered_map>
 #include <vector>
 
+#include "base/key_index.h"
 #include "forms/control.h"
 
 namespace orvik::forms {
@@ -63,7 +63,7 @@ class TreeView : public Control {
   void RemoveOne(int position);
 
   std::vector<Node> nodes_;
-  std::unordered_map<Text, std::uint32_t, HashNoCase, SameNoCase> ids_;  // by key
+  KeyIndex keys_;  // of ids
   std::uint32_t last_id_ = 0;
   int selected_ = 0;
   Text tooltip_;

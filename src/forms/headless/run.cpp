@@ -7,7 +7,6 @@
 #include "forms/headless/pick_host.h"
 #include "forms/headless/run_end.h"
 #include "forms/headless/scripted_services.h"
-#include "forms/instance.h"
 
 namespace orvik::forms::headless {
 
@@ -99,8 +98,6 @@ int Play(const Options& options, const Script& script, const host::Host& host,
   }
   transcript.Begin("end").Name("reason").String(end.reason);
   transcript.End();
-  // Files that forms hold open close while their file system is still there.
-  ForgetForms();
   return end.status;
 }
 

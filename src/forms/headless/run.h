@@ -23,6 +23,8 @@ constexpr int kTime = 4;
 }  // namespace exit_status
 
 // Runs the program on a host to its end and writes the transcript. The answer is the exit status.
+// Forms stay as the run left them; before another one call ForgetForms, while the host is still
+// there for the files that they hold open.
 int Play(const Options& options, const Script& script, const host::Host& host,
          const Program& program, const Transcript::Output& output);
 

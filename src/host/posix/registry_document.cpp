@@ -27,27 +27,32 @@ void PutValue(RegistrySection& section, TextView name, Text data) {
   }
 }
 
+std::uint32_t RegistryDocument::IndexOf(TextView path) const {
+  return index_.Find(path, [this](std::uint32_t i) -> TextView { return sections_[i].path; });
+}
+
 RegistrySection* RegistryDocument::Find(TextView path) {
-  const auto found = index_.find(path);
-  return found != index_.end() ? &sections_[found->second] : nullptr;
+  const std::uint32_t found = IndexOf(path);
+  return found != KeyIndex::kNone ? &sections_[found] : nullptr;
 }
 
 const RegistrySection* RegistryDocument::Find(TextView path) const {
-  const auto found = index_.find(path);
-  return found != index_.end() ? &sections_[found->second] : nullptr;
+  return const_cast<RegistryDocument&>(*this).Find(path);
 }
 
 void RegistryDocument::Index() {
-  index_.clear();
-  for (std::size_t i = 0; i < sections_.size(); ++i) {
-    if (sections_[i].readable) index_.try_emplace(sections_[i].path, i);
+  index_.Clear();
+  for (std::uint32_t i = 0; i < sections_.size(); ++i) {
+    if (sections_[i].readable) index_.Add(sections_[i].path, i);
   }
 }
 
 std::size_t RegistryDocument::SectionOf(TextView path) {
-  const auto [known, added] = index_.try_emplace(Text(path), sections_.size());
-  if (added) sections_.push_back({Text(path), true, {}});
-  return known->second;
+  const std::uint32_t known = IndexOf(path);
+  if (known != KeyIndex::kNone) return known;
+  index_.Add(path, static_cast<std::uint32_t>(sections_.size()));
+  sections_.push_back({Text(path), true, {}});
+  return sections_.size() - 1;
 }
 
 std::size_t RegistryDocument::AddUnreadable(TextView head) {

@@ -3,9 +3,9 @@
 
 #include <cstddef>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
+#include "base/key_index.h"
 #include "base/text.h"
 
 namespace orvik::host::posix {
@@ -62,13 +62,14 @@ class RegistryDocument {
   }
 
  private:
+  std::uint32_t IndexOf(TextView path) const;
   const RegistrySection* Find(TextView path) const;
   RegistrySection* Find(TextView path);
   void Index();
   bool HasBelow(TextView path) const;
 
   std::vector<RegistrySection> sections_;
-  std::unordered_map<Text, std::size_t, HashNoCase, SameNoCase> index_;  // of readable ones
+  KeyIndex index_;  // of readable ones, by path
 };
 
 // Puts a value into a section, in the place of one with the same name.

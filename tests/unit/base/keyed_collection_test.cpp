@@ -27,19 +27,5 @@ TEST(KeyedCollection, PositionsCountFromOne) {
   EXPECT_EQ(collection.Find(u"ka"), nullptr);
 }
 
-TEST(KeyedCollection, RemovalMovesWhatIsBehind) {
-  KeyedCollection collection;
-  collection.Add(u"a", u"ka");
-  collection.Add(u"b", u"kb");
-  collection.Add(u"c", u"kc");
-  collection.Remove(1);
-  EXPECT_EQ(collection.Item(1), u"b");
-  EXPECT_EQ(collection.Item(u"kc"), u"c");
-  EXPECT_EQ(collection.Find(u"ka"), nullptr);
-  collection.Add(u"a again", u"ka");
-  EXPECT_EQ(collection.Item(3), u"a again");
-  EXPECT_THROW(collection.Remove(4), Failure);
-}
-
 }  // namespace
 }  // namespace orvik

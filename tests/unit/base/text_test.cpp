@@ -53,7 +53,7 @@ TEST(LetterCase, SignsBetweenLettersStay) {
 TEST(LetterCase, EqualityIgnoresIt) {
   EXPECT_TRUE(EqualNoCase(u"Файл.TXT", u"фАЙЛ.txt"));
   EXPECT_FALSE(EqualNoCase(u"a", u"ab"));
-  EXPECT_EQ(HashNoCase{}(u"Ёж"), HashNoCase{}(u"ёЖ"));
+  EXPECT_EQ(HashNoCase(u"Ёж"), HashNoCase(u"ёЖ"));
 }
 
 TEST(Trim, TakesBlanksOnly) {

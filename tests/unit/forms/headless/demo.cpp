@@ -27,6 +27,7 @@ Played Demo::Run(const std::string& script, std::vector<std::string> options) {
   Played played;
   played.status = Play(*parsed, *lines, host.services(), program,
                        [&](std::string_view bytes) { output += bytes; });
+  ForgetForms();
   EXPECT_TRUE(output.ends_with('\n'));
   for (std::size_t at = 0, end; (end = output.find('\n', at)) != std::string::npos; at = end + 1) {
     played.lines.push_back(output.substr(at, end - at));
