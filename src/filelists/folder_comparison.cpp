@@ -83,32 +83,32 @@ void frmCRC::ReloadComparedFolders(Text second_folder) {
 void frmCRC::AddFirstFolder(const std::vector<Text>& files) {
   for (std::int32_t i = 0; i <= UpperBoundOrMinusOne(files); ++i) {
     const Text& path = files[static_cast<std::size_t>(i)];
-    Attempt([&] { lvMain.Add(path, KeyOf(path)); });
-    Attempt(
-        [&] { lvMain.AddSub(i + 1, mdlMain::TwoFolderCell(GetFastCRC(path, 0), LengthOf(path))); });
+    const Text key = KeyOf(path);
+    if (lvMain.Find(key) == 0) lvMain.Add(path, key);
+    const Text cell = mdlMain::TwoFolderCell(GetFastCRC(path, 0), LengthOf(path));
+    if (i < lvMain.count()) lvMain.AddSub(i + 1, cell);
   }
 }
 
 void frmCRC::AddSecondFolder(const std::vector<Text>& files, const std::vector<Text>& first_files) {
   for (std::size_t j = 0; j < files.size(); ++j) {
     const Text& path = files[j];
+    int row = lvMain.Find(KeyOf(path));
+    const bool paired = row != 0 && !lvMain.At(row).text.empty();
+    if (!paired) {
+      lvMain.Add(path);
+      row = lvMain.count();
+      lvMain.AddSub(row, u"");
+    }
     // The length is that of the first folder's file at the same place, whatever file this is; where
     // the first folder has none left, there is no cell.
-    const auto cell = [&] {
-      if (j >= first_files.size()) throw Failure{};
-      return mdlMain::TwoFolderCell(GetFastCRC(path, 0), LengthOf(first_files[j]));
-    };
-    const int row = lvMain.Find(KeyOf(path));
-    if (row != 0 && !lvMain.At(row).text.empty()) {
-      Attempt([&] { lvMain.AddSub(row, cell()); });
-      // A row that lacks one of the two passes for equal.
-      if (Passes([&] { return lvMain.Sub(row, 1) == lvMain.Sub(row, 2); })) {
-        lvMain.SetColor(row, kGreen);
-      }
-    } else {
-      lvMain.Add(path);
-      lvMain.AddSub(lvMain.count(), u"");
-      Attempt([&] { lvMain.AddSub(lvMain.count(), cell()); });
+    if (j < first_files.size()) {
+      lvMain.AddSub(row, mdlMain::TwoFolderCell(GetFastCRC(path, 0), LengthOf(first_files[j])));
+    }
+    // A row that lacks one of the two passes for equal.
+    const auto& cells = lvMain.At(row).sub;
+    if (paired && (cells.size() < 2 || cells[0].text == cells[1].text)) {
+      lvMain.SetColor(row, kGreen);
     }
   }
 }
