@@ -140,6 +140,18 @@ TEST_F(FindDoubles, WhatCantBeReadIsLikeWhatIsEmpty) {
   EXPECT_EQ(tree().At(1).key, u"k0");
 }
 
+TEST_F(FindDoubles, AFileThatVanishedSinceTheWalkIsLikeAnEmptyOne) {
+  host.files.AddFile(u"T:\\d\\empty");
+  host.files.AddFile(u"T:\\d\\going", "content");
+  // With the first percent the walk is over and no file has been read.
+  front.on_yield = [&](int) {
+    if (tree().At(1).text != u"Обработка ... обзор каталогов") host.files.Take(u"T:\\d\\going");
+  };
+  OpenAndSearch();
+  EXPECT_EQ(Nodes(), (Lines{"0 T:\\d\\empty", "+1 T:\\d\\going"}));
+  EXPECT_FALSE(host.files.Exists(u"T:\\d\\going"));
+}
+
 TEST_F(FindDoubles, WholeContentsDecideUpToTheBlock) {
   std::string one = Filled(2000), other = one;
   other[1000] = 'y';

@@ -94,6 +94,13 @@ TEST_F(ListComparison, LinesWithoutSeparatorAndWithMore) {
             (std::vector<std::string>{"green X:\\a|1", "green X:\\b|c|c", "green X:\\z|0|0"}));
 }
 
+// A row without a path doesn't count as one that is there: it never pairs and stays red, even as
+// the last of the chosen list.
+TEST_F(ListComparison, ARowWithoutAPathNeverPairs) {
+  Compare(";1\r\n;1\r\n", "X:\\a;1\r\n;1\r\nX:\\z;0\r\n");
+  EXPECT_EQ(Rows(), (std::vector<std::string>{"red |1", "red X:\\a|1", "green X:\\z|0"}));
+}
+
 TEST_F(ListComparison, ACancelledDialogEndsWithAMessage) {
   host.files.AddFile(u"T:\\l.qlx", "X:\\a;1\r\n");
   EXPECT_EQ(Run(u"/CML T:\\l.qlx"), forms::EndReason::kShutdown);

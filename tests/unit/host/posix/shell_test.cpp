@@ -55,6 +55,14 @@ TEST_F(PosixShellTest, LongNamesAreCutInTheTrashAndWholeInTheNote) {
               HasSubstr("Path=" + PercentEncoded(folder_ + "/t/" + stem + ".docx") + "\n"));
 }
 
+TEST_F(PosixShellTest, ALongExtensionIsCutInTheTrashToo) {
+  std::string extension = ".";
+  for (int i = 0; i < 126; ++i) extension += "ж";
+  WriteNative("x" + extension, "content");
+  EXPECT_TRUE(shell().Recycle(FromUtf8("T:\\x" + extension), Questions::kSilent));
+  EXPECT_EQ(ReadNative(Trash() + "/files/" + extension.substr(0, 245)), "content");
+}
+
 TEST_F(PosixShellTest, AThingWithoutANoteIsntOverwritten) {
   ASSERT_EQ(std::system(("mkdir -p '" + Trash() + "/files'").c_str()), 0);
   std::ofstream(Trash() + "/files/x") << "stray";
