@@ -18,7 +18,7 @@ class frmWatchFolderSize : public forms::Form {
   forms::Label frRights{*this, "frRights", {120, 15, 3960, 225}, u"Rights"};
   forms::Label frFolder{*this, "frFolder", {120, 270, 3270, 225}, u"Folder"};
   forms::Label frSizeMB{*this, "frSizeMB", {3420, 270, 930, 225}, u"..."};
-  forms::Line lnOne{*this, "lnOne", {120, 255, 4200, 0}};
+  forms::Line lnOne{*this, "lnOne", {120, 250, 4200, 0}};
   forms::Picture pbExit{*this, "pbExit", {4155, 30, 195, 195}, forms::Picture::Image::kExit};
   forms::Timer clMain{*this, "clMain", 2000, true};
 

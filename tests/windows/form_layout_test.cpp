@@ -39,12 +39,6 @@ class FormLayout : public WindowsTest {
     EXPECT_EQ(form_.resizes, 1) << "the first showing";
     form_.resizes = 0;
   }
-  RECT Area(const Control& control) {
-    RECT area;
-    GetWindowRect(WindowOf(control), &area);
-    MapWindowPoints(nullptr, WindowOf(form_), reinterpret_cast<POINT*>(&area), 2);
-    return area;
-  }
   SIZE Client(const Form& form) {
     RECT area;
     GetClientRect(WindowOf(form), &area);

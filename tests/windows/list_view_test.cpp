@@ -86,12 +86,6 @@ class Reports : public WindowsTest {
   LRESULT Notify(NMHDR& header) {
     return SendMessageW(WindowOf(form_), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header));
   }
-  RECT Area(const Control& control) {
-    RECT area;
-    GetWindowRect(WindowOf(control), &area);
-    MapWindowPoints(nullptr, WindowOf(form_), reinterpret_cast<POINT*>(&area), 2);
-    return area;
-  }
   int Pixels(int twips) { return win32::WindowOf(form_).metrics().Pixels(twips); }
   ReportForm form_;
 };

@@ -19,7 +19,7 @@ class Strip : public Form {
   }
   Label title{*this, "frRights", {120, 15, 3960, 225}, u"Заголовок"};
   Label value{*this, "frSizeMB", {3300, 270, 1020, 225}, u"..."};
-  Line line{*this, "lnOne", {120, 255, 4200, 0}};
+  Line line{*this, "lnOne", {120, 250, 4200, 0}};
   Picture exit{*this, "pbExit", {4155, 30, 195, 195}, Picture::Image::kExit};
   Timer timer{*this, "clMain", 5, false};
 };
@@ -140,6 +140,27 @@ TEST_F(Skins, ALongCaptionGetsASmallerFont) {
   strip_.value.SetCaption(u" 5 Mb");
   Pump();
   EXPECT_EQ(height(), usual);
+}
+
+// The separator above and the scale below would go under the ground of a label that grows with its
+// font. Here the label is lower than the system's font is.
+TEST_F(Skins, LabelsKeepTheirPlaceAndTakeALowerFont) {
+  strip_.value.Move({3300, 270, 1020, 180});
+  Show();
+  for (const int dpi : {96, 120, 144, 168, 192, 240}) {
+    RECT where{0, 0, 0, 0};
+    SendMessageW(WindowOf(strip_), WM_DPICHANGED, MAKEWPARAM(dpi, dpi),
+                 reinterpret_cast<LPARAM>(&where));
+    Pump();
+    const RECT value = Area(strip_.value);
+    const LONG height = value.bottom - value.top;
+    ASSERT_GT(win32::WindowOf(strip_).metrics().line_height(), height) << dpi;
+    const auto font = reinterpret_cast<HFONT>(Send(strip_.value, WM_GETFONT));
+    EXPECT_LE(Metrics::TextSize(u"...", font).cy, height) << dpi;
+    EXPECT_EQ(value.bottom, Pixels(450)) << dpi;
+    EXPECT_LE(Area(strip_.title).bottom, Area(strip_.line).top) << dpi;
+    EXPECT_LE(Area(strip_.line).bottom, value.top) << dpi;
+  }
 }
 
 TEST_F(Skins, PressesAndClicksAreTold) {

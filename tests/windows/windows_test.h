@@ -25,6 +25,13 @@ class TestFrontEnd : public WindowsFrontEnd {
 
 class WindowsTest : public testing::Test {
  protected:
+  // Where a control is on its form, in pixels.
+  static RECT Area(const Control& control) {
+    RECT area;
+    GetWindowRect(WindowOf(control), &area);
+    MapWindowPoints(nullptr, WindowOf(control.form()), reinterpret_cast<POINT*>(&area), 2);
+    return area;
+  }
   WindowsTest() { Install(front_); }
 
   // Handles all that waits, without the limits of a yield.

@@ -44,7 +44,8 @@ void LabelView::ShowFont() {
   for (int lower = 0; lower <= metrics.Scaled(kLowestBy); ++lower) {
     if (font != nullptr) DeleteObject(font);
     font = metrics.MakeFont(style->bold, style->serif, lower);
-    if (Metrics::TextWidth(label_.caption(), font) <= area.right - area.left) break;
+    const SIZE text = Metrics::TextSize(label_.caption(), font);
+    if (text.cx <= area.right - area.left && text.cy <= area.bottom - area.top) break;
   }
   Send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
   if (font_ != nullptr) DeleteObject(font_);
@@ -66,7 +67,9 @@ HBRUSH LabelView::OnColor(HDC context) {
 
 RECT LabelView::Area() const {
   RECT area = ControlView::Area();
-  // A low label keeps its middle and gets the height that the font needs.
+  // What a skin draws stands close by, and a label's ground would cover it.
+  if (control().form().skinned()) return area;
+  // Elsewhere a low label keeps its middle and gets the height that the font needs.
   const int missing = form().metrics().line_height() - (area.bottom - area.top);
   if (missing > 0) {
     area.top -= missing / 2;

@@ -62,12 +62,12 @@ HFONT Metrics::MakeFont(bool bold, bool serif, int lower) const {
   return CreateFontIndirectW(&description);
 }
 
-int Metrics::TextWidth(const Text& text, HFONT font) {
+SIZE Metrics::TextSize(const Text& text, HFONT font) {
   const ScreenContext screen;
   const Selected selected(screen.get(), font);
   SIZE size{};
   GetTextExtentPoint32W(screen.get(), Wide(text), static_cast<int>(text.size()), &size);
-  return size.cx;
+  return size;
 }
 
 int DpiOf(HWND window) {

@@ -25,9 +25,10 @@ class Metrics {
   int Twips(int pixels) const { return MulDiv(pixels, 1440, dpi_); }
   // Pixels at 96 dots to the inch, in those of this resolution.
   int Scaled(int pixels) const { return MulDiv(pixels, dpi_, 96); }
-  // The width of a text in the font, or in another one.
-  int TextWidth(const Text& text) const { return TextWidth(text, font_); }
-  static int TextWidth(const Text& text, HFONT font);
+  // The width of a text in the font.
+  int TextWidth(const Text& text) const { return TextSize(text, font_).cx; }
+  // The width of a text in another font, and the height of its lines.
+  static SIZE TextSize(const Text& text, HFONT font);
 
  private:
   const int dpi_;
